@@ -1,0 +1,20 @@
+# How this project's own code is compiled: strict warnings, and arithmetic that follows IEEE 754 step by step.
+
+add_library(QorMathCompileOptions INTERFACE)
+target_compile_options(QorMathCompileOptions INTERFACE
+  $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion -ffp-contract=off>
+  $<$<CXX_COMPILER_ID:MSVC>:/W4 /fp:precise>)
+
+option(QORMATH_WARNINGS_AS_ERRORS "Treat warnings of our own code as errors" OFF)
+if(QORMATH_WARNINGS_AS_ERRORS)
+  target_compile_options(QorMathCompileOptions INTERFACE
+    $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Werror> $<$<CXX_COMPILER_ID:MSVC>:/WX>)
+endif()
+
+if(QORMATH_SANITIZE)
+  string(REPLACE ";" "," _qormath_sanitizers "${QORMATH_SANITIZE}")
+  target_compile_options(QorMathCompileOptions INTERFACE
+    -fsanitize=${_qormath_sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  target_link_options(QorMathCompileOptions INTERFACE -fsanitize=${_qormath_sanitizers})
+  unset(_qormath_sanitizers)
+endif()

@@ -1,0 +1,6 @@
+# Installs the library, its headers and what other projects need to find it.
+install(TARGETS QorMath EXPORT QorMathTargets
+  LIBRARY DESTINATION "${CMAKE_INSTALL_LIBDIR}"
+  RUNTIME DESTINATION "${CMAKE_INSTALL_BINDIR}"
+  ARCHIVE DESTINATION "${CMAKE_INSTALL_LIBDIR}")
+install(DIRECTORY "${PROJECT_SOURCE_DIR}/include/math" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}")
