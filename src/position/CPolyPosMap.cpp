@@ -1,0 +1,265 @@
+#include "math/CPolyPosMap.h"
+
+#include "position/PairList.h"
+#include "primitives/Tolerance.h"
+
+#include <algorithm>
+#include <cmath>
+#include <cstddef>
+
+#if defined(_WIN32)
+template class QORMATH_EXPORT std::vector<std::pair<double, double>>;
+#else
+template class std::vector<std::pair<double, double>>;
+#endif
+
+namespace math
+{
+
+using detail::BothSides;
+using detail::ColumnValue;
+using detail::DestinationSide;
+using detail::IsEqual;
+using detail::Joint;
+using detail::JointList;
+using detail::NoPosition;
+using detail::SourceSide;
+
+namespace
+{
+
+/// Steps between near neighbours may go either way.
+bool TurnsBack(const JointList& joints, int side)
+{
+    const bool up = ColumnValue(joints.front(), side) <= ColumnValue(joints.back(), side);
+    for (std::size_t i = 0; i + 1 < joints.size(); ++i)
+    {
+        const double earlier = ColumnValue(joints[i], side);
+        const double later = ColumnValue(joints[i + 1], side);
+        if (!IsEqual(earlier, later) && (up ? later < earlier : later > earlier))
+        {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool ExceedsLap(const JointList& joints, int side, int segmentCount)
+{
+    const double span = std::abs(ColumnValue(joints.front(), side) - ColumnValue(joints.back(), side));
+    return span > segmentCount + DoubleTolerance;
+}
+
+bool StartsInside(double lowEnd, int segmentCount)
+{
+    return segmentCount == 0 || (lowEnd >= 0 && lowEnd < segmentCount);
+}
+
+} // namespace
+
+CPolyPosMap::CPolyPosMap() : m_srcSegmentCount(0), m_dstSegmentCount(0)
+{
+}
+
+CPolyPosMap::CPolyPosMap(const std::vector<std::pair<double, double>>& pairs, const int& srcSegmentCount,
+                         const int& dstSegmentCount)
+    : m_posPairs(pairs),
+      m_srcSegmentCount(srcSegmentCount),
+      m_dstSegmentCount(dstSegmentCount)
+{
+}
+
+CPolyPosMap::CPolyPosMap(const CPolyPosMap& other) = default;
+CPolyPosMap& CPolyPosMap::operator=(const CPolyPosMap& other) = default;
+CPolyPosMap::~CPolyPosMap() = default;
+
+std::vector<std::pair<double, double>>& CPolyPosMap::PosPairs()
+{
+    return m_posPairs;
+}
+
+const std::vector<std::pair<double, double>>& CPolyPosMap::PosPairs() const
+{
+    return m_posPairs;
+}
+
+int& CPolyPosMap::SrcSegmentCount()
+{
+    return m_srcSegmentCount;
+}
+
+const int& CPolyPosMap::SrcSegmentCount() const
+{
+    return m_srcSegmentCount;
+}
+
+int& CPolyPosMap::DstSegmentCount()
+{
+    return m_dstSegmentCount;
+}
+
+const int& CPolyPosMap::DstSegmentCount() const
+{
+    return m_dstSegmentCount;
+}
+
+void CPolyPosMap::MakeEmpty()
+{
+    m_posPairs.clear();
+    m_srcSegmentCount = 0;
+    m_dstSegmentCount = 0;
+}
+
+bool CPolyPosMap::IsEmpty() const
+{
+    return m_posPairs.empty();
+}
+
+std::pair<double, double> CPolyPosMap::Front() const
+{
+    return IsEmpty() ? Joint(NoPosition, NoPosition) : m_posPairs.front();
+}
+
+std::pair<double, double> CPolyPosMap::Back() const
+{
+    return IsEmpty() ? Joint(NoPosition, NoPosition) : m_posPairs.back();
+}
+
+bool CPolyPosMap::IsPosPairEqual(const std::pair<double, double>& a, const std::pair<double, double>& b)
+{
+    return IsEqual(a.first, b.first) && IsEqual(a.second, b.second);
+}
+
+void CPolyPosMap::Reverse()
+{
+    std::reverse(m_posPairs.begin(), m_posPairs.end());
+}
+
+void CPolyPosMap::Invert()
+{
+    if (IsIdentity())
+    {
+        return;
+    }
+    for (Joint& joint : m_posPairs)
+    {
+        std::swap(joint.first, joint.second);
+    }
+    std::swap(m_srcSegmentCount, m_dstSegmentCount);
+}
+
+CPolyPosMap CPolyPosMap::operator!() const
+{
+    CPolyPosMap inverse(*this);
+    inverse.Invert();
+    return inverse;
+}
+
+bool CPolyPosMap::IsIdentity() const
+{
+    if (IsEmpty())
+    {
+        return true;
+    }
+    if (m_srcSegmentCount != m_dstSegmentCount)
+    {
+        return false;
+    }
+    return std::all_of(m_posPairs.begin(), m_posPairs.end(),
+                       [](const Joint& joint) { return IsEqual(joint.first, joint.second); });
+}
+
+bool CPolyPosMap::IsInvalid() const
+{
+    if (m_posPairs.size() < 2)
+    {
+        return false;
+    }
+    return TurnsBack(m_posPairs, SourceSide) || TurnsBack(m_posPairs, DestinationSide) ||
+           ExceedsLap(m_posPairs, SourceSide, m_srcSegmentCount) ||
+           ExceedsLap(m_posPairs, DestinationSide, m_dstSegmentCount);
+}
+
+bool CPolyPosMap::IsNormalize() const
+{
+    if (IsInvalid())
+    {
+        return false;
+    }
+    if (IsEmpty())
+    {
+        return true;
+    }
+    const double lowSource = IsIncrease(SourceSide) ? m_posPairs.front().first : m_posPairs.back().first;
+    const double lowDestination = IsIncrease(DestinationSide) ? m_posPairs.front().second : m_posPairs.back().second;
+    return StartsInside(lowSource, m_srcSegmentCount) && StartsInside(lowDestination, m_dstSegmentCount);
+}
+
+bool CPolyPosMap::IsIncrease(const int& side) const
+{
+    if (IsInvalid())
+    {
+        return false;
+    }
+    if (m_posPairs.size() < 2)
+    {
+        return true;
+    }
+    const bool sourceUp = m_posPairs.front().first <= m_posPairs.back().first;
+    const bool destinationUp = m_posPairs.front().second <= m_posPairs.back().second;
+    switch (side)
+    {
+    case SourceSide:
+        return sourceUp;
+    case DestinationSide:
+        return destinationUp;
+    case BothSides:
+        return sourceUp && destinationUp;
+    default:
+        return true;
+    }
+}
+
+bool CPolyPosMap::IsPoint(const int& side) const
+{
+    if (IsInvalid())
+    {
+        return false;
+    }
+    if (m_posPairs.size() < 2)
+    {
+        return true;
+    }
+    const bool sourceStands = IsEqual(m_posPairs.front().first, m_posPairs.back().first);
+    const bool destinationStands = IsEqual(m_posPairs.front().second, m_posPairs.back().second);
+    switch (side)
+    {
+    case SourceSide:
+        return sourceStands;
+    case DestinationSide:
+        return destinationStands;
+    case BothSides:
+        return sourceStands && destinationStands;
+    default:
+        return true;
+    }
+}
+
+PosRangeD CPolyPosMap::GetRange(const int& side, const bool& normalize) const
+{
+    if (IsInvalid() || IsEmpty() || (side != SourceSide && side != DestinationSide))
+    {
+        return PosRangeD();
+    }
+    double front = ColumnValue(m_posPairs.front(), side);
+    double back = ColumnValue(m_posPairs.back(), side);
+    if (normalize)
+    {
+        const int segmentCount = side == SourceSide ? m_srcSegmentCount : m_dstSegmentCount;
+        front = PosRangeD::NormalizePos(front, segmentCount);
+        back = PosRangeD::NormalizePos(back, segmentCount);
+    }
+    return IsIncrease(side) ? PosRangeD(front, back) : PosRangeD(back, front);
+}
+
+} // namespace math

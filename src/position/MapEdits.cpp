@@ -1,0 +1,96 @@
+#include "math/CPolyPosMap.h"
+
+#include "math/CPolyPosMapUtilies.h"
+#include "position/PairList.h"
+#include "primitives/Tolerance.h"
+
+namespace math
+{
+
+using detail::BothSides;
+using detail::ColumnValue;
+using detail::DestinationSide;
+using detail::IsEqual;
+using detail::Joint;
+using detail::JointList;
+using detail::SourceSide;
+
+namespace
+{
+
+void ShiftColumn(JointList& joints, int side, double delta)
+{
+    for (Joint& joint : joints)
+    {
+        ColumnValue(joint, side) += delta;
+    }
+}
+
+void TurnColumn(JointList& joints, int side, int segmentCount)
+{
+    for (Joint& joint : joints)
+    {
+        ColumnValue(joint, side) = segmentCount - ColumnValue(joint, side);
+    }
+}
+
+bool IsAtSeam(double position, int segmentCount)
+{
+    return detail::IsZero(position) || IsEqual(position, segmentCount);
+}
+
+} // namespace
+
+void CPolyPosMap::Offset(const double& delta, const int& side)
+{
+    if (IsInvalid() || IsEmpty())
+    {
+        return;
+    }
+    const double shift = delta;
+    if (side == SourceSide || side == BothSides)
+    {
+        ShiftColumn(m_posPairs, SourceSide, shift);
+    }
+    if (side == DestinationSide || side == BothSides)
+    {
+        ShiftColumn(m_posPairs, DestinationSide, shift);
+    }
+}
+
+void CPolyPosMap::Split(const double& pos, const int& side)
+{
+    const double zero = pos;
+    const int splitSide = side;
+    if ((splitSide == SourceSide || splitSide == BothSides) && !IsAtSeam(zero, m_srcSegmentCount))
+    {
+        *this = CPolyPosMapUtilies::ResetZero(zero, m_srcSegmentCount) * *this;
+    }
+    if ((splitSide == DestinationSide || splitSide == BothSides) && !IsAtSeam(zero, m_dstSegmentCount))
+    {
+        *this *= !CPolyPosMapUtilies::ResetZero(zero, m_dstSegmentCount);
+    }
+}
+
+void CPolyPosMap::ReverseDirection(int side)
+{
+    if (side != SourceSide && side != DestinationSide && side != BothSides)
+    {
+        return;
+    }
+    if (side != DestinationSide)
+    {
+        TurnColumn(m_posPairs, SourceSide, m_srcSegmentCount);
+    }
+    if (side != SourceSide)
+    {
+        TurnColumn(m_posPairs, DestinationSide, m_dstSegmentCount);
+    }
+    Normalize();
+    if (side != DestinationSide)
+    {
+        Reverse();
+    }
+}
+
+} // namespace math

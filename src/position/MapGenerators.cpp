@@ -1,0 +1,268 @@
+#include "math/CPolyPosMapUtilies.h"
+
+#include "position/PairList.h"
+#include "primitives/Tolerance.h"
+
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+
+namespace math
+{
+
+using detail::IsEqual;
+using detail::Joint;
+using detail::JointList;
+using detail::NoPosition;
+
+namespace
+{
+
+/// Some neighbours of a range list that share one stretch of the destination.
+struct RangeGroup
+{
+    PosRangeD range;
+    int segmentCount;
+
+    bool HasImage() const
+    {
+        return range.start != NoPosition;
+    }
+};
+
+std::vector<RangeGroup> GroupEqualNeighbours(const std::vector<PosRangeD>& ranges)
+{
+    std::vector<RangeGroup> groups;
+    for (std::size_t i = 0; i < ranges.size(); ++i)
+    {
+        if (i > 0 && ranges[i] == ranges[i - 1])
+        {
+            ++groups.back().segmentCount;
+        }
+        else
+        {
+            groups.push_back({ranges[i], 1});
+        }
+    }
+    return groups;
+}
+
+/// The joints of a source whose segments all became one stretch.
+JointList JointsOfOneGroup(const RangeGroup& group, int dstSegmentCount)
+{
+    const double sourceEnd = group.segmentCount;
+    if (!group.HasImage())
+    {
+        return {{0.0, 0.0}, {sourceEnd, 0.0}};
+    }
+    const PosRangeD& range = group.range;
+    const double destinationEnd = range.end < range.start ? range.end + dstSegmentCount : range.end;
+    return {{0.0, range.start}, {sourceEnd, destinationEnd}};
+}
+
+/// Where the segments without an image collapse to: the start of what follows, at the very end the end of what came before.
+double CollapsedPosition(const std::vector<RangeGroup>& groups, std::size_t index)
+{
+    return index + 1 == groups.size() ? groups[index - 1].range.end : groups[index + 1].range.start;
+}
+
+JointList JointsOfGroups(const std::vector<RangeGroup>& groups)
+{
+    JointList joints;
+    double source = 0.0;
+    for (std::size_t i = 0; i < groups.size(); ++i)
+    {
+        PosRangeD image = groups[i].range;
+        if (!groups[i].HasImage())
+        {
+            const double collapsed = CollapsedPosition(groups, i);
+            image = PosRangeD(collapsed, collapsed);
+        }
+        joints.emplace_back(source, image.start);
+        source += groups[i].segmentCount;
+        joints.emplace_back(source, image.end);
+    }
+    return joints;
+}
+
+/// Lets the destination go on past the seam instead of turning back there.
+void LiftOverSeam(JointList& joints, int dstSegmentCount)
+{
+    for (std::size_t i = 1; i < joints.size(); ++i)
+    {
+        if (joints[i].second < joints[i - 1].second)
+        {
+            joints[i].second += dstSegmentCount;
+        }
+    }
+}
+
+bool HasIntegerPart(double position)
+{
+    return std::abs(position) < static_cast<double>(std::numeric_limits<int>::max());
+}
+
+/// One joint for each end of a stretch of a segment between two positions, the second above the first.
+JointList JointsOfStretch(double start, double end)
+{
+    const std::int64_t startSegment = PosRangeD::GetSegmentIndex(start);
+    const std::int64_t endSegment = PosRangeD::GetSegmentIndex(end);
+    JointList joints{{0.0, start}};
+    for (std::int64_t node = startSegment + 1; node <= endSegment; ++node)
+    {
+        joints.emplace_back(static_cast<double>(node - startSegment), static_cast<double>(node));
+    }
+    const double lastNode = static_cast<double>(endSegment);
+    if (!IsEqual(end, lastNode) && lastNode < end)
+    {
+        joints.emplace_back(static_cast<double>(endSegment - startSegment + 1), end);
+    }
+    return joints;
+}
+
+/// The destination segment at a source position that has images, or -1.
+int ImageSegment(const std::vector<double>& images, int dstSegmentCount)
+{
+    if (images.empty() || dstSegmentCount == 0)
+    {
+        return -1;
+    }
+    const std::int64_t segment = PosRangeD::GetSegmentIndex(images.front());
+    return static_cast<int>(segment % dstSegmentCount);
+}
+
+} // namespace
+
+CPolyPosMap CPolyPosMapUtilies::GenerateWholeMap(const int& segmentCount, const bool& reverse)
+{
+    // A joint at every node would lie on one straight line, of which the two ends stay.
+    JointList joints;
+    if (segmentCount > 0)
+    {
+        const double count = segmentCount;
+        joints = reverse ? JointList{{0.0, count}, {count, 0.0}} : JointList{{0.0, 0.0}, {count, count}};
+    }
+    return CPolyPosMap(joints, segmentCount, segmentCount);
+}
+
+CPolyPosMap CPolyPosMapUtilies::ResetZero(const double& pos, const int& segmentCount)
+{
+    if (detail::IsZero(pos) || IsEqual(pos, segmentCount))
+    {
+        return GenerateWholeMap(segmentCount, false);
+    }
+    const double count = segmentCount;
+    if (detail::IsZero(PosRangeD::GetRadio(pos)))
+    {
+        return CPolyPosMap({{0.0, pos}, {count, count + pos}}, segmentCount, segmentCount);
+    }
+    const double segment = PosRangeD::GetSegmentIndex(pos);
+    const JointList joints{{0.0, pos}, {1.0, segment + 1.0}, {count, segment + count}, {count + 1.0, count + pos}};
+    const int sourceCount = segmentCount < std::numeric_limits<int>::max() ? segmentCount + 1 : segmentCount;
+    return CPolyPosMap(joints, sourceCount, segmentCount);
+}
+
+CPolyPosMap CPolyPosMapUtilies::GeneratePosMapFromSegmentMap(const std::vector<int>& segmentMap,
+                                                             const int& dstSegmentCount)
+{
+    JointList joints;
+    double source = 0.0;
+    for (const int segment : segmentMap)
+    {
+        const double nextSource = source + 1.0;
+        const double segmentEnd = segment + 1.0;
+        if (segment == -1)
+        {
+            const double collapsed = joints.empty() ? 0.0 : joints.back().second;
+            if (joints.empty())
+            {
+                joints.emplace_back(source, collapsed);
+            }
+            joints.emplace_back(nextSource, collapsed);
+        }
+        else if (!joints.empty() && joints.back().second == segmentEnd)
+        {
+            joints.back() = {nextSource, segmentEnd};
+        }
+        else
+        {
+            joints.emplace_back(source, segment);
+            joints.emplace_back(nextSource, segmentEnd);
+        }
+        source = nextSource;
+    }
+    detail::Tidy(joints);
+    return CPolyPosMap(joints, static_cast<int>(segmentMap.size()), dstSegmentCount);
+}
+
+std::vector<int> CPolyPosMapUtilies::GetSegmentMapFronPosMap(const CPolyPosMap& map)
+{
+    std::vector<int> segments;
+    for (int i = 0; i < map.SrcSegmentCount(); ++i)
+    {
+        const std::vector<double> atStart = map * static_cast<double>(i);
+        const std::vector<double> atEnd = map * (static_cast<double>(i) + 1.0);
+        segments.push_back(atEnd.empty() ? -1 : ImageSegment(atStart, map.DstSegmentCount()));
+    }
+    for (std::size_t i = 1; i < segments.size(); ++i)
+    {
+        if (segments[i] == segments[i - 1])
+        {
+            segments[i] = -1;
+        }
+    }
+    return segments;
+}
+
+CPolyPosMap CPolyPosMapUtilies::GeneratePosMapFromPosRangeVec(const std::vector<PosRangeD>& ranges,
+                                                              const int& dstSegmentCount)
+{
+    if (ranges.empty())
+    {
+        return CPolyPosMap();
+    }
+    const std::vector<RangeGroup> groups = GroupEqualNeighbours(ranges);
+    const int srcSegmentCount = static_cast<int>(ranges.size());
+    if (groups.size() == 1)
+    {
+        return CPolyPosMap(JointsOfOneGroup(groups.front(), dstSegmentCount), srcSegmentCount, dstSegmentCount);
+    }
+    JointList joints = JointsOfGroups(groups);
+    LiftOverSeam(joints, dstSegmentCount);
+    detail::Tidy(joints);
+    return CPolyPosMap(joints, srcSegmentCount, dstSegmentCount);
+}
+
+CPolyPosMap CPolyPosMapUtilies::GeneratePosMapFromPosRange2Pos(const PosRangeD& range, const double& pos,
+                                                               const int& srcSegmentCount, const int& dstSegmentCount)
+{
+    if (IsEqual(range.start, range.end))
+    {
+        return CPolyPosMap({{0.0, pos}}, 0, dstSegmentCount);
+    }
+    JointList joints{{range.start, pos}, {range.end, pos}};
+    detail::Tidy(joints);
+    return CPolyPosMap(joints, srcSegmentCount, dstSegmentCount);
+}
+
+CPolyPosMap CPolyPosMapUtilies::GeneratePosMapFromCadByPosrange2OriginCad(const PosRangeD& range,
+                                                                          const int& segmentCount)
+{
+    if (IsEqual(range.start, range.end))
+    {
+        return CPolyPosMap({{0.0, range.end}}, 0, segmentCount);
+    }
+    const double end = range.end > range.start ? range.end : range.end + segmentCount;
+    if (!HasIntegerPart(range.start) || !HasIntegerPart(end))
+    {
+        return CPolyPosMap();
+    }
+    JointList joints = JointsOfStretch(range.start, end);
+    // Counted before straight joints go: every stretch of a segment is one segment of the piece.
+    const int pieceCount = PosRangeD::GetSegmentIndex(joints.back().first);
+    detail::Tidy(joints);
+    return CPolyPosMap(joints, pieceCount, segmentCount);
+}
+
+} // namespace math

@@ -1,0 +1,150 @@
+#include "math/CPolyPosMap.h"
+
+#include "position/PairList.h"
+#include "primitives/Tolerance.h"
+
+#include <cstddef>
+
+namespace math
+{
+
+using detail::BothSides;
+using detail::ColumnValue;
+using detail::DestinationSide;
+using detail::IsEqual;
+using detail::NoPosition;
+using detail::SourceSide;
+
+namespace
+{
+
+/// Sorts images and drops each one that is near the last one kept.
+void SortUniqueImages(std::vector<double>& images, bool ascending)
+{
+    detail::SortPositions(images, ascending);
+    std::size_t kept = 0;
+    for (const double image : images)
+    {
+        if (kept == 0 || !IsEqual(images[kept - 1], image))
+        {
+            images[kept++] = image;
+        }
+    }
+    images.resize(kept);
+}
+
+} // namespace
+
+std::vector<double> CPolyPosMap::MultyDouble(const std::vector<std::pair<double, double>>& pairs, const double& pos)
+{
+    return detail::Evaluate(pairs, pos);
+}
+
+std::vector<double> CPolyPosMap::operator*(const double& pos) const
+{
+    if (IsInvalid())
+    {
+        return {};
+    }
+    return MultyDouble(m_posPairs, PosRangeD::NormalizePos(pos, GetRange(SourceSide, false), m_srcSegmentCount));
+}
+
+std::vector<double> CPolyPosMap::MultyDouble(const double& pos, const bool& bothSeamFaces,
+                                             const bool& liftSeamImages) const
+{
+    if (IsInvalid())
+    {
+        return {};
+    }
+    const double countFace = m_srcSegmentCount;
+    const double wrapped = PosRangeD::NormalizePos(pos, GetRange(SourceSide, false), m_srcSegmentCount);
+    const bool up = IsIncrease(DestinationSide);
+    std::vector<double> atZero;
+    std::vector<double> atCount;
+    if (detail::IsZero(wrapped))
+    {
+        atZero = *this * wrapped;
+        if (bothSeamFaces)
+        {
+            atCount = *this * countFace;
+        }
+    }
+    else if (IsEqual(wrapped, countFace))
+    {
+        atCount = *this * wrapped;
+        if (bothSeamFaces)
+        {
+            atZero = *this * 0.0;
+        }
+    }
+    else
+    {
+        std::vector<double> elsewhere = *this * wrapped;
+        SortUniqueImages(elsewhere, up);
+        return elsewhere;
+    }
+
+    SortUniqueImages(atZero, up);
+    SortUniqueImages(atCount, up);
+    if (liftSeamImages && !atZero.empty() && !atCount.empty())
+    {
+        for (double& image : atZero)
+        {
+            image += m_dstSegmentCount;
+        }
+    }
+    atZero.insert(atZero.end(), atCount.begin(), atCount.end());
+    SortUniqueImages(atZero, up);
+    return atZero;
+}
+
+int CPolyPosMap::GetMaxLeftIndex(const double& pos, const int& side) const
+{
+    return IsInvalid() ? -1 : detail::FindLeftIndex(m_posPairs, pos, side);
+}
+
+int CPolyPosMap::GetMinRightIndex(const double& pos, const int& side) const
+{
+    return IsInvalid() ? -1 : detail::FindRightIndex(m_posPairs, pos, side);
+}
+
+bool CPolyPosMap::IsOverRange(const double& pos, const int& side) const
+{
+    if (IsInvalid())
+    {
+        return false;
+    }
+    if (IsEmpty())
+    {
+        return true;
+    }
+    if (side == BothSides)
+    {
+        return IsOverRange(pos, SourceSide) || IsOverRange(pos, DestinationSide);
+    }
+    if (side != SourceSide && side != DestinationSide)
+    {
+        return false;
+    }
+    if (IsPoint(side))
+    {
+        return !IsEqual(pos, ColumnValue(m_posPairs.front(), side));
+    }
+    // The source count wraps the position on either side.
+    const double wrapped = PosRangeD::NormalizePos(pos, m_srcSegmentCount);
+    const PosRangeD covered = GetRange(side, true);
+    return !covered.IsOn(wrapped) && !covered.IsContain(wrapped);
+}
+
+std::pair<double, double> CPolyPosMap::Insert(const double& pos, const int& side)
+{
+    if (side != SourceSide && side != DestinationSide)
+    {
+        return {NoPosition, NoPosition};
+    }
+    const int segmentCount = side == SourceSide ? m_srcSegmentCount : m_dstSegmentCount;
+    const double moved = PosRangeD::NormalizePos(pos, GetRange(side, false), segmentCount);
+    return detail::InsertJoint(m_posPairs, moved, side);
+}
+
+} // namespace math

@@ -1,0 +1,140 @@
+#include "math/CPolyPosMap.h"
+
+#include "position/PairList.h"
+#include "primitives/Tolerance.h"
+
+#include <cmath>
+#include <cstdint>
+
+namespace math
+{
+
+using detail::BothSides;
+using detail::ColumnValue;
+using detail::DestinationSide;
+using detail::Joint;
+using detail::JointList;
+using detail::SourceSide;
+
+namespace
+{
+
+/// Laps to take off so that `position` comes into the first lap. At a negative multiple of the count it is one lap more than
+/// needed, which brings the position to the count instead of 0.
+std::int64_t LapsToTakeOff(double position, int segmentCount)
+{
+    if (segmentCount == 0)
+    {
+        return 0;
+    }
+    if (position >= 0)
+    {
+        return detail::WholeLaps(position, segmentCount);
+    }
+    return position < 0 ? -1 - detail::WholeLaps(-position, segmentCount) : 0;
+}
+
+void TakeOffLaps(JointList& joints, int side, std::int64_t laps, int segmentCount)
+{
+    if (laps == 0)
+    {
+        return;
+    }
+    const double shift = static_cast<double>(laps * segmentCount);
+    for (Joint& joint : joints)
+    {
+        ColumnValue(joint, side) -= shift;
+    }
+}
+
+/// The first whole position at or past a position above 0.
+std::int64_t NodeAtOrPast(double position)
+{
+    const std::int64_t node = PosRangeD::GetSegmentIndex(position);
+    return detail::IsZero(PosRangeD::GetRadio(position)) ? node : node + 1;
+}
+
+/// Gives one column a joint at every whole position of a lap. On a map over the seam the lap begins with what the upper end
+/// leaves past the count.
+void FillColumn(JointList& joints, int side, int segmentCount)
+{
+    const std::int64_t lastNode = NodeAtOrPast(ColumnValue(joints.back(), side));
+    if (segmentCount == 0 && lastNode > 0)
+    {
+        return;
+    }
+    const std::int64_t firstNode = lastNode > segmentCount ? lastNode % segmentCount : 0;
+    for (std::int64_t node = firstNode; node <= firstNode + segmentCount; ++node)
+    {
+        detail::InsertJoint(joints, static_cast<double>(node), side);
+    }
+    const double span = std::abs(ColumnValue(joints.back(), side) - ColumnValue(joints.front(), side));
+    if (span > segmentCount && !detail::IsEqual(span, segmentCount))
+    {
+        joints.pop_back();
+    }
+}
+
+} // namespace
+
+void CPolyPosMap::Unique(const bool& mergeStraight)
+{
+    if (mergeStraight)
+    {
+        detail::Tidy(m_posPairs);
+    }
+    else
+    {
+        detail::RemoveRepeated(m_posPairs);
+    }
+}
+
+void CPolyPosMap::Normalize()
+{
+    if (IsNormalize() || IsInvalid())
+    {
+        return;
+    }
+    // The destination is read where the source is lowest, also on a map whose columns run opposite ways.
+    const Joint lowest = IsIncrease(SourceSide) ? m_posPairs.front() : m_posPairs.back();
+    const std::int64_t sourceLaps = LapsToTakeOff(lowest.first, m_srcSegmentCount);
+    const std::int64_t destinationLaps = LapsToTakeOff(lowest.second, m_dstSegmentCount);
+    TakeOffLaps(m_posPairs, SourceSide, sourceLaps, m_srcSegmentCount);
+    TakeOffLaps(m_posPairs, DestinationSide, destinationLaps, m_dstSegmentCount);
+}
+
+void CPolyPosMap::FillAllSegmentNode(const int& side)
+{
+    if (IsInvalid() || IsEmpty())
+    {
+        return;
+    }
+    const int filledSide = side;
+    const bool wasUp = IsIncrease(SourceSide);
+    Normalize();
+    if (!IsIncrease(SourceSide))
+    {
+        Invert();
+    }
+    switch (filledSide)
+    {
+    case SourceSide:
+        FillColumn(m_posPairs, SourceSide, m_srcSegmentCount);
+        break;
+    case DestinationSide:
+        FillColumn(m_posPairs, DestinationSide, m_dstSegmentCount);
+        break;
+    case BothSides:
+        FillAllSegmentNode(SourceSide);
+        FillAllSegmentNode(DestinationSide);
+        break;
+    default:
+        break;
+    }
+    if (IsIncrease(SourceSide) != wasUp)
+    {
+        Invert();
+    }
+}
+
+} // namespace math

@@ -1,0 +1,276 @@
+#include "math/PosRangeD.h"
+
+#include "position/PairList.h"
+#include "primitives/Tolerance.h"
+
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+namespace math
+{
+
+using detail::IsEqual;
+using detail::IsZero;
+using detail::NoPosition;
+
+PosRangeD::PosRangeD() : start(NoPosition), end(NoPosition)
+{
+}
+
+PosRangeD::PosRangeD(const double& startPos, const double& endPos) : start(startPos), end(endPos)
+{
+}
+
+PosRangeD::PosRangeD(int startSegment, double startRatio, int endSegment, double endRatio)
+    : start(startSegment + startRatio),
+      end(endSegment + endRatio)
+{
+}
+
+PosRangeD::PosRangeD(int segment, double startRatio, double endRatio)
+    : start(segment + startRatio),
+      end(segment + endRatio)
+{
+}
+
+PosRangeD::PosRangeD(const PosRangeD& other) = default;
+PosRangeD& PosRangeD::operator=(const PosRangeD& other) = default;
+PosRangeD::~PosRangeD() = default;
+
+void PosRangeD::MakeInavlid()
+{
+    start = NoPosition;
+    end = NoPosition;
+}
+
+int PosRangeD::GetSegmentIndex(const double& pos)
+{
+    double whole = 0.0;
+    std::modf(pos, &whole);
+    if (std::isnan(whole))
+    {
+        return 0;
+    }
+    constexpr int least = std::numeric_limits<int>::min();
+    constexpr int greatest = std::numeric_limits<int>::max();
+    if (whole <= least)
+    {
+        return least;
+    }
+    return whole >= greatest ? greatest : static_cast<int>(whole);
+}
+
+double PosRangeD::GetRadio(const double& pos)
+{
+    double whole = 0.0;
+    return std::modf(pos, &whole);
+}
+
+double PosRangeD::NormalizePos(const double& pos, const int& segmentCount)
+{
+    if (segmentCount == 0)
+    {
+        return NoPosition;
+    }
+    const double lap = segmentCount;
+    if (IsZero(pos) || IsEqual(pos, lap))
+    {
+        return pos;
+    }
+    if (segmentCount < 0 || std::isinf(pos))
+    {
+        return std::isnan(pos) ? pos : NoPosition;
+    }
+    // Laps are whole numbers, so each one taken off leaves an exact remainder, as std::fmod does at once; only the step
+    // from below 0 up into the lap rounds. Multiples of the lap end at 0 from below and at the count from above.
+    if (pos < 0)
+    {
+        const double remainder = std::fmod(pos, lap);
+        return remainder < 0 ? remainder + lap : 0.0;
+    }
+    if (pos > lap)
+    {
+        const double remainder = std::fmod(pos, lap);
+        return remainder > 0 ? remainder : lap;
+    }
+    return pos;
+}
+
+double PosRangeD::NormalizePos(const double& pos, const PosRangeD& range, const int& segmentCount)
+{
+    if (segmentCount == 0)
+    {
+        return NoPosition;
+    }
+    const double lowEnd = range.start;
+    double highEnd = range.end;
+    if (lowEnd > highEnd || IsEqual(lowEnd, highEnd))
+    {
+        highEnd += segmentCount;
+    }
+    if (IsEqual(pos, lowEnd) || IsEqual(pos, highEnd))
+    {
+        return pos;
+    }
+    if (segmentCount < 0 || std::isinf(pos))
+    {
+        return NormalizePos(pos, segmentCount);
+    }
+
+    const double firstLap = static_cast<double>(detail::WholeLaps(lowEnd, segmentCount));
+    double lastLap = static_cast<double>(detail::WholeLaps(highEnd, segmentCount));
+    if (IsEqual(highEnd, lastLap * segmentCount))
+    {
+        // An end at a seam belongs to the lap that it closes.
+        lastLap -= 1.0;
+    }
+    double moved = NormalizePos(pos, segmentCount) + firstLap * segmentCount;
+    if (firstLap != lastLap && lowEnd > moved)
+    {
+        moved += segmentCount;
+    }
+    return moved;
+}
+
+bool PosRangeD::IsEmpty() const
+{
+    return IsInvalid();
+}
+
+bool PosRangeD::IsInvalid() const
+{
+    return std::isnan(start) || std::isnan(end) || start < -DoubleTolerance || end < -DoubleTolerance;
+}
+
+bool PosRangeD::IsWholeRange() const
+{
+    return !IsInvalid() && IsEqual(start, end);
+}
+
+bool PosRangeD::IsContain(const double& pos) const
+{
+    if (IsInvalid())
+    {
+        return false;
+    }
+    if (end > start)
+    {
+        return pos > start && pos < end;
+    }
+    if (IsEqual(start, end))
+    {
+        return true;
+    }
+    return pos > start || pos < end;
+}
+
+bool PosRangeD::IsOn(const double& pos) const
+{
+    if (IsInvalid() || IsWholeRange())
+    {
+        return false;
+    }
+    return IsEqual(start, pos) || IsEqual(end, pos);
+}
+
+bool PosRangeD::IsContainZero() const
+{
+    if (IsInvalid())
+    {
+        return false;
+    }
+    return IsEqual(start, end) || start > end;
+}
+
+bool PosRangeD::IsOverlap(const PosRangeD& other) const
+{
+    if (IsInvalid() || other.IsInvalid())
+    {
+        return false;
+    }
+    if (*this == other || IsWholeRange() || other.IsWholeRange())
+    {
+        return true;
+    }
+    return IsContain(other.start) || IsContain(other.end);
+}
+
+bool PosRangeD::IsContain(const PosRangeD& other) const
+{
+    if (IsInvalid() || other.IsInvalid())
+    {
+        return false;
+    }
+    if (*this == other || IsWholeRange())
+    {
+        return true;
+    }
+    const bool containsStart = IsContain(other.start);
+    const bool containsEnd = IsContain(other.end);
+    if (IsEqual(end, other.end) && containsStart)
+    {
+        return true;
+    }
+    if (IsEqual(start, other.start) && containsEnd)
+    {
+        return true;
+    }
+    return containsStart && containsEnd;
+}
+
+bool PosRangeD::IsComplementary(const PosRangeD& other) const
+{
+    if ((IsWholeRange() && other.IsInvalid()) || (IsInvalid() && other.IsWholeRange()))
+    {
+        return true;
+    }
+    if (IsInvalid() || other.IsInvalid() || IsWholeRange() || other.IsWholeRange())
+    {
+        return false;
+    }
+    return IsEqual(end, other.start) && IsEqual(start, other.end);
+}
+
+bool PosRangeD::operator==(const PosRangeD& other) const
+{
+    if (IsInvalid() || other.IsInvalid())
+    {
+        return IsInvalid() && other.IsInvalid();
+    }
+    if (IsWholeRange() || other.IsWholeRange())
+    {
+        return IsWholeRange() && other.IsWholeRange();
+    }
+    return IsEqual(start, other.start) && IsEqual(end, other.end);
+}
+
+bool PosRangeD::operator!=(const PosRangeD& other) const
+{
+    return !(*this == other);
+}
+
+bool PosRangeD::operator<(const PosRangeD& other) const
+{
+    if (IsInvalid())
+    {
+        return true;
+    }
+    return !other.IsInvalid() && start < other.start;
+}
+
+PosRangeD PosRangeD::Reverse(const int& segmentCount) const
+{
+    return PosRangeD(segmentCount - end, segmentCount - start);
+}
+
+PosRangeD PosRangeD::Complementary() const
+{
+    if (IsInvalid() || IsWholeRange())
+    {
+        return PosRangeD();
+    }
+    return PosRangeD(end, start);
+}
+
+} // namespace math
