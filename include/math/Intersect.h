@@ -1,0 +1,254 @@
+#pragma once
+
+/// @file
+/// Points that two plane curves share.
+///
+/// Every member is named `Intersect_` and its two curves, and takes them in the order of its name. The laws below
+/// hold for the whole family; a member tells only what it adds to them.
+///
+/// **Curves.** All angles are radians, counter-clockwise from the positive x axis.
+/// - A *beeline* is an unbounded straight line: a point and an angle, of which only the angle modulo π counts. It has
+///   no direction of travel and is not a ray.
+/// - A *line* in a member's name is a bounded stretch between two ends.
+/// - A *circle* is a centre and a radius.
+/// - An *arc* is a circle with a start angle and a signed sweep: a positive sweep runs counter-clockwise from the
+///   start, a negative one clockwise, and its absolute value is the extent. A sweep of 0 holds the start point alone.
+///
+/// **Beelines.** The angle is first brought into [0, π). Within DoubleTolerance of π/2 the beeline is vertical,
+/// everywhere else it has the direction (1, tan angle), enormous but finite just off the vertical. The time of
+/// folding grows with the angle: above about 1e9 a fold takes a second, from about 1e17 on, and for an infinite
+/// angle, it never ends.
+///
+/// **Results.** The result is the number of common points. It is -1 where the two curves coincide along a length, so
+/// that there is no single point to give; a member that has no such result says so.
+///
+/// **Tolerance.** Whole curves meet by the exact kernel (AnalyticKernel.h): lines are parallel and centres concentric
+/// at 1e-9, while a tangency is a matter of one rounding unit. What lies on a stretch or an arc is then kept by
+/// IsPointInLine and IsPointInArc at DoubleTolerance, so a point within 1e-9 of an end counts as on the curve.
+///
+/// **Order of two points.**
+/// - A straight line with a circle: the point with the greater x comes first, on a vertical the one with the greater
+///   y, whichever way the angle or the stretch points. A stretch drawn from right to left meets its points against
+///   the order of travel.
+/// - Two circles: the first point lies on the left of the vector from the first centre to the second.
+/// - Members that drop points keep this order; a single survivor goes to the first output.
+///
+/// **Pointer forms** end in outputs. Each may be null, which skips it and leaves the result as it is. An output is
+/// written only when its point is reported and otherwise stays as it was. An output may be one of the inputs: inputs
+/// are read first.
+///
+/// **Vector forms** take a vector and an `int` instead of the outputs. They append to the vector and never clear it.
+/// A point of the vector itself may be an input. The trailing `int` has one of three meanings, told by its name:
+/// - `ignored` is never read.
+/// - `wantPoints`: if not 0, the points of the pointer form are appended. If 0, a quick test gives a count, computes
+///   no point and leaves the vector alone. The quick tests have tolerances of their own: near a tangency, or where
+///   curves coincide, their count can differ from that of the full form.
+/// - `maxPoints`: the greatest number of points to append, first point first; a negative value means all. It limits
+///   the vector and never the result, so 0 appends nothing and still tells the count.
+///
+/// **Failures.** No exception of the underlying geometry types leaves a member: a stretch of no length or a negative
+/// radius gives 0. A vector form passes on what the growth of its vector raises. NaN input gives no crash; what is
+/// counted for it has no meaning.
+
+#include "math/Export.h"
+#include "math/Primitives.h"
+
+#include <vector>
+
+namespace math
+{
+
+/// The unbounded straight lines through two records: their ends carry a position and a direction, no extent.
+///
+/// Lines count as parallel, and as one line, at 1e-9 on their unit coefficients.
+///
+/// @param a, b   the two records
+/// @param point  receives the point of intersection, which need not lie on either stretch; may be null
+/// @return 1 for one point, 0 for parallel lines or a record of no length, -1 for one and the same line
+QORMATH_EXPORT int Intersect(const LineD2D& a, const LineD2D& b, DPOINT2* point);
+
+/// Two beelines.
+///
+/// @param p, angleOfP  the first beeline
+/// @param q, angleOfQ  the second beeline
+/// @param point        receives the point of intersection; may be null
+/// @return 1 for one point, 0 for parallel beelines, -1 for one and the same
+QORMATH_EXPORT int Intersect_BeelineWithBeeline(const DPOINT2& p, double angleOfP, const DPOINT2& q, double angleOfQ,
+                                                DPOINT2* point);
+
+/// Two beelines: appends the point when the result is 1, whatever the trailing `int`.
+QORMATH_EXPORT int Intersect_BeelineWithBeeline(const DPOINT2& p, double angleOfP, const DPOINT2& q, double angleOfQ,
+                                                std::vector<DPOINT2>& points, int ignored);
+
+/// A beeline and a stretch.
+///
+/// @param p, angleOfP           the beeline
+/// @param firstEnd, secondEnd   the ends of the stretch
+/// @param point                 receives the point of intersection; may be null
+/// @return 1 for one point, 0 when they miss each other or the stretch has no length, -1 when the stretch lies on the
+///         beeline, however short it is
+QORMATH_EXPORT int Intersect_BeelineWithLine(const DPOINT2& p, double angleOfP, const DPOINT2& firstEnd,
+                                             const DPOINT2& secondEnd, DPOINT2* point);
+
+/// A beeline and a stretch: appends the point when the result is 1, whatever the trailing `int`.
+QORMATH_EXPORT int Intersect_BeelineWithLine(const DPOINT2& p, double angleOfP, const DPOINT2& firstEnd,
+                                             const DPOINT2& secondEnd, std::vector<DPOINT2>& points, int ignored);
+
+/// Two stretches, the ends included.
+///
+/// Stretches of one straight line are compared along x, or along y when the first stretch is vertical within
+/// DoubleTolerance. Touching end to end they meet in that end: in the first stretch's first end if it coincides with
+/// an end of the second stretch, otherwise in its second end.
+///
+/// @param firstEndOfA, secondEndOfA  the first stretch
+/// @param firstEndOfB, secondEndOfB  the second stretch
+/// @param point                      receives the common point; may be null
+/// @return 1 for one point, 0 when they miss each other or one of them has no length, -1 when they overlap along a
+///         length
+QORMATH_EXPORT int Intersect_LineWithLine(const DPOINT2& firstEndOfA, const DPOINT2& secondEndOfA,
+                                          const DPOINT2& firstEndOfB, const DPOINT2& secondEndOfB, DPOINT2* point);
+
+/// Two stretches: appends the point when the result of the pointer form is 1.
+///
+/// With `wantPoints` 0 a quick test by boxes and signed areas answers 1 when the stretches meet, else 0. It is exact,
+/// has no tolerance, knows no -1 (an overlap along a length gives 1) and accepts stretches of no length.
+QORMATH_EXPORT int Intersect_LineWithLine(const DPOINT2& firstEndOfA, const DPOINT2& secondEndOfA,
+                                          const DPOINT2& firstEndOfB, const DPOINT2& secondEndOfB,
+                                          std::vector<DPOINT2>& points, int wantPoints);
+
+/// A beeline and a circle.
+///
+/// A tangent fills both outputs with its one point. It is recognised only within one rounding unit of the radius: a
+/// line further out by more than that gives 0, one further in gives two points close together. A circle of radius 0
+/// is met only by a beeline through its centre.
+///
+/// @param point, angle    the beeline
+/// @param centre, radius  the circle
+/// @param first, second   receive the points; either may be null
+/// @return 0, 1 or 2; 0 for a negative radius
+QORMATH_EXPORT int Intersect_BeelineWithCircle(const DPOINT2& point, double angle, const DPOINT2& centre, double radius,
+                                               DPOINT2* first, DPOINT2* second);
+
+/// A beeline and a circle: a tangent appends its point once.
+///
+/// With `wantPoints` 0 the distance from the centre to the beeline is compared with the radius: 1 when they are equal
+/// within DoubleTolerance, 0 when it is greater, else 2. A negative radius is compared like any other, and a beeline
+/// for which no distance exists gives 2.
+QORMATH_EXPORT int Intersect_BeelineWithCircle(const DPOINT2& point, double angle, const DPOINT2& centre, double radius,
+                                               std::vector<DPOINT2>& points, int wantPoints);
+
+/// A beeline and an arc.
+///
+/// @param point, angle                  the beeline
+/// @param centre, radius, start, sweep  the arc
+/// @param first, second                 receive the points; either may be null
+/// @return 0, 1 or 2; 0 for a radius that is not positive
+QORMATH_EXPORT int Intersect_BeelineWithArc(const DPOINT2& point, double angle, const DPOINT2& centre, double radius,
+                                            double start, double sweep, DPOINT2* first, DPOINT2* second);
+
+/// A beeline and an arc: appends at most `maxPoints` points.
+QORMATH_EXPORT int Intersect_BeelineWithArc(const DPOINT2& point, double angle, const DPOINT2& centre, double radius,
+                                            double start, double sweep, std::vector<DPOINT2>& points, int maxPoints);
+
+/// A stretch and a circle.
+///
+/// @param firstEnd, secondEnd  the ends of the stretch
+/// @param centre, radius       the circle
+/// @param first, second        receive the points; either may be null
+/// @return 0, 1 or 2; 0 for a negative radius or a stretch shorter than DoubleTolerance in both coordinates
+QORMATH_EXPORT int Intersect_LineWithCircle(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre,
+                                            double radius, DPOINT2* first, DPOINT2* second);
+
+/// A stretch and a circle: appends at most `maxPoints` points.
+QORMATH_EXPORT int Intersect_LineWithCircle(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre,
+                                            double radius, std::vector<DPOINT2>& points, int maxPoints);
+
+/// A stretch and an arc.
+///
+/// @param firstEnd, secondEnd           the ends of the stretch
+/// @param centre, radius, start, sweep  the arc
+/// @param first, second                 receive the points; either may be null
+/// @return 0, 1 or 2; 0 for a radius that is not positive or a stretch shorter than DoubleTolerance in both
+///         coordinates
+QORMATH_EXPORT int Intersect_LineWithArc(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre,
+                                         double radius, double start, double sweep, DPOINT2* first, DPOINT2* second);
+
+/// A stretch and an arc: appends at most `maxPoints` points.
+QORMATH_EXPORT int Intersect_LineWithArc(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre,
+                                         double radius, double start, double sweep, std::vector<DPOINT2>& points,
+                                         int maxPoints);
+
+/// Two circles.
+///
+/// Circles that touch, from outside or inside, write their point to the first output and leave the second as it was.
+/// Centres at most 1e-9 apart count as one centre.
+///
+/// @param firstCentre, firstRadius    the first circle
+/// @param secondCentre, secondRadius  the second circle
+/// @param first, second               receive the points; either may be null
+/// @return 0, 1 or 2; -1 for identical circles; 0 for a negative radius
+QORMATH_EXPORT int Intersect_CircleWithCircle(const DPOINT2& firstCentre, double firstRadius,
+                                              const DPOINT2& secondCentre, double secondRadius, DPOINT2* first,
+                                              DPOINT2* second);
+
+/// Two circles: appends the points of the pointer form.
+///
+/// With `wantPoints` 0 the distance d of the centres is compared, within DoubleTolerance: -1 for one centre and one
+/// radius; 1 when d equals either radius or their sum; 0 when the circles are apart or one lies inside the other;
+/// else 2. So a centre on the other circle counts 1 though the circles cross twice, and circles that touch from
+/// inside count 2.
+QORMATH_EXPORT int Intersect_CircleWithCircle(const DPOINT2& firstCentre, double firstRadius,
+                                              const DPOINT2& secondCentre, double secondRadius,
+                                              std::vector<DPOINT2>& points, int wantPoints);
+
+/// A circle and an arc.
+///
+/// @param circleCentre, circleRadius             the circle
+/// @param arcCentre, arcRadius, start, sweep     the arc
+/// @param first   receives the first point, or the only one. Not optional: with null the result is 0 unless the
+///                curves cross in two points that both lie on the arc
+/// @param second  receives the second point; may be null
+/// @return 0, 1 or 2; 0 also where the circle carries the arc, and for a radius of the arc that is not positive
+QORMATH_EXPORT int Intersect_CircleWithArc(const DPOINT2& circleCentre, double circleRadius, const DPOINT2& arcCentre,
+                                           double arcRadius, double start, double sweep, DPOINT2* first,
+                                           DPOINT2* second);
+
+/// A circle and an arc: appends every point, whatever the trailing `int`.
+///
+/// @return 0, 1 or 2; -1 where the circle carries the arc, with the arc's two ends appended, the start first
+QORMATH_EXPORT int Intersect_CircleWithArc(const DPOINT2& circleCentre, double circleRadius, const DPOINT2& arcCentre,
+                                           double arcRadius, double start, double sweep, std::vector<DPOINT2>& points,
+                                           int ignored);
+
+/// Two arcs.
+///
+/// Arcs with exactly the same centre and equal radii (within DoubleTolerance) lie on one circle and are compared by
+/// their ends, each taken counter-clockwise. They are expected to start in [0, 2π). Their outcomes:
+///
+/// | the arcs                                    | result | first             | second                |
+/// |---------------------------------------------|--------|-------------------|-----------------------|
+/// | are the same                                | -1     | start             | end                   |
+/// | overlap, the second starts inside the first | -1     | the second's start | the first's end      |
+/// | overlap, the second ends inside the first   | -1     | the first's start | the second's end      |
+/// | share both ends                             | 2      | the first's start | the first's end       |
+/// | share one end                               | 1      | that end          | untouched             |
+/// | anything else                               | 0      | untouched         | untouched             |
+///
+/// A second arc wholly inside the first takes the second row, so the overlap is told up to the first's end. A first
+/// arc wholly inside the second takes the last row.
+///
+/// @param firstCentre, firstRadius, firstStart, firstSweep      the first arc
+/// @param secondCentre, secondRadius, secondStart, secondSweep  the second arc
+/// @param first, second  receive the points, on -1 the two ends of the overlap; either may be null
+/// @return 0, 1 or 2; -1 when the arcs overlap along a length
+QORMATH_EXPORT int Intersect_ArcWithArc(const DPOINT2& firstCentre, double firstRadius, double firstStart,
+                                        double firstSweep, const DPOINT2& secondCentre, double secondRadius,
+                                        double secondStart, double secondSweep, DPOINT2* first, DPOINT2* second);
+
+/// Two arcs: appends at most `maxPoints` points, of an overlap its two ends.
+QORMATH_EXPORT int Intersect_ArcWithArc(const DPOINT2& firstCentre, double firstRadius, double firstStart,
+                                        double firstSweep, const DPOINT2& secondCentre, double secondRadius,
+                                        double secondStart, double secondSweep, std::vector<DPOINT2>& points,
+                                        int maxPoints);
+
+} // namespace math
