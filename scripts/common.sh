@@ -18,7 +18,7 @@ package_is_installed()
 {
     local status
     status=$(dpkg-query --show --showformat='${db:Status-Status}' "$1" 2>/dev/null) || return 1
-    [ "$status" = installed ]
+    [[ $status == installed* ]]
 }
 
 # Runs a command as root, through sudo if need be.
