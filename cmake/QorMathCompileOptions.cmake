@@ -4,8 +4,9 @@ add_library(QorMathCompileOptions INTERFACE)
 target_compile_options(QorMathCompileOptions INTERFACE
   $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion -ffp-contract=off>
   $<$<CXX_COMPILER_ID:MSVC>:/W4 /fp:precise>)
+# Debug builds of all that is linked together let the standard library test its own preconditions.
+target_compile_definitions(QorMathCompileOptions INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)
 
-option(QORMATH_WARNINGS_AS_ERRORS "Treat warnings of our own code as errors" OFF)
 if(QORMATH_WARNINGS_AS_ERRORS)
   target_compile_options(QorMathCompileOptions INTERFACE
     $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Werror> $<$<CXX_COMPILER_ID:MSVC>:/WX>)

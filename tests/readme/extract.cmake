@@ -1,0 +1,25 @@
+# Takes the first program out of README and makes a project of it in PROJECT: main.cpp and CMakeLists.txt from the first
+# blocks marked cpp and cmake, output.txt from the first block marked text.
+file(REMOVE_RECURSE "${PROJECT}")
+file(READ "${README}" readme)
+
+function(extract language file)
+  set(fence "```${language}\n")
+  string(FIND "${readme}" "${fence}" begin)
+  if(begin EQUAL -1)
+    message(FATAL_ERROR "No block marked ${language} in ${README}")
+  endif()
+  string(LENGTH "${fence}" length)
+  math(EXPR begin "${begin} + ${length}")
+  string(SUBSTRING "${readme}" ${begin} -1 rest)
+  string(FIND "${rest}" "```\n" end)
+  if(end EQUAL -1)
+    message(FATAL_ERROR "The block marked ${language} in ${README} has no end")
+  endif()
+  string(SUBSTRING "${rest}" 0 ${end} block)
+  file(WRITE "${PROJECT}/${file}" "${block}")
+endfunction()
+
+extract(cpp main.cpp)
+extract(cmake CMakeLists.txt)
+extract(text output.txt)
