@@ -265,6 +265,23 @@ public:
     bool IsInvertTo(const CPolyPosMap& other);
 
     /// @}
+    /// @name Concatenation
+    /// @{
+
+    /// The map that walks this map and then `other`, between the same two polylines.
+    ///
+    /// Nothing is evaluated, merged or tested at the join. Where a column would run backwards a lap is added, once: on a
+    /// column that runs upward in this map to `other` if this map ends above it, on any other column to this map if `other`
+    /// begins above it. Maps that do not fit give an ill-formed list; Unique() cleans the join of those that do.
+    ///
+    /// @return the concatenation; an empty map with both counts 0 if an operand is invalid or the counts of a side differ;
+    ///         the other operand if one has no joints
+    CPolyPosMap operator+(const CPolyPosMap& other) const;
+
+    /// Replaces this map by `*this + other`, unless it is invalid.
+    CPolyPosMap& operator+=(const CPolyPosMap& other);
+
+    /// @}
 
 private:
     /// The evaluation itself, on a raw position and a raw list.

@@ -4,6 +4,7 @@
 #include "math/Export.h"
 #include "math/PosRangeD.h"
 
+#include <utility>
 #include <vector>
 
 namespace math
@@ -81,6 +82,54 @@ public:
     /// range.end) with a source count of 0. Ends with Unique(true); the source count is that of the pieces before. A range
     /// with an end of NaN or whose integer part is beyond `int` gives an empty map with both counts 0.
     static CPolyPosMap GeneratePosMapFromCadByPosrange2OriginCad(const PosRangeD& range, const int& segmentCount);
+
+    /// @name Joining polylines
+    ///
+    /// A polyline joined from two keeps the positions of the first and raises those of the second by the segment count of
+    /// the first. Each combiner restates the maps of the parts on the whole by composition and concatenates them. Whatever
+    /// fails shows as an empty map with both counts 0: counts that do not fit, maps that do not meet, directions that
+    /// differ, a result that IsInvalid() rejects.
+    /// @{
+
+    /// The maps of two polylines into the one joined from them. A part without segments gives a single joint with the source
+    /// count 0.
+    static std::pair<CPolyPosMap, CPolyPosMap> CombineTwoCad(const int& firstCount, const int& secondCount);
+
+    /// Joins the sources of two maps onto one destination. Source stretches that neither map covers stand still. Serves maps
+    /// whose sources run upward.
+    static CPolyPosMap CombineTwonMapWithSameDst(const CPolyPosMap& first, const CPolyPosMap& second);
+
+    /// Joins the destinations of two maps from one source: the mirror image of CombineTwonMapWithSameDst().
+    static CPolyPosMap CombineTwonMapWithSameSrc(const CPolyPosMap& first, const CPolyPosMap& second);
+
+    /// Joins the sources and the destinations of two maps. The end of the first and the beginning of the second must meet on
+    /// one side at least. If one has no joints the other is the result, unchanged.
+    static CPolyPosMap CombineTwoMapStandalone(const CPolyPosMap& first, const CPolyPosMap& second);
+
+    /// @}
+    /// @name Following edits of a polyline
+    /// @{
+
+    /// Restates a map after `addedCount` segments were added at the front or back of its source, its destination or both.
+    ///
+    /// Added source segments collapse onto the destination position where the map begins or ends; added destination segments
+    /// are jumped over there; on both sides they answer to one another one by one, which needs a map that reaches the ends.
+    /// @return the map; a copy of `map` if neither side grows; an empty map with both counts 0 where the parts do not meet
+    static CPolyPosMap ExtendMap(const CPolyPosMap& map, const int& addedCount, const bool& atFront,
+                                 const bool& extendSrc, const bool& extendDst);
+
+    /// Restates a map after stretches of `addedSrcCount` and `addedDstCount` segments, which answer to one another linearly,
+    /// were added at the front or back of both polylines. A copy of `map` if both counts are 0.
+    static CPolyPosMap ExtendMap(const CPolyPosMap& map, const int& addedSrcCount, const int& addedDstCount,
+                                 const bool& atFront);
+
+    /// Restates a map after a stretch at one end of its source (or destination) was taken away.
+    ///
+    /// The map jumps over the lost stretch, or collapses it. A stretch from the middle leaves the map as it is.
+    /// @return the map; an empty map with both counts 0 if `map` has no joints or `range` starts above its end
+    static CPolyPosMap RemoveOpenRangeFromMap(const CPolyPosMap& map, const PosRangeD& range, const bool& onSrc);
+
+    /// @}
 };
 
 } // namespace math

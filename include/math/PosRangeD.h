@@ -2,6 +2,8 @@
 
 #include "math/Export.h"
 
+#include <vector>
+
 namespace math
 {
 
@@ -136,6 +138,39 @@ struct QORMATH_EXPORT PosRangeD
 
     /// The rest of the closed polyline: (end, start). Invalid for an invalid or whole range.
     PosRangeD Complementary() const;
+
+    /// The range cut at a position, pieces in walking order.
+    ///
+    /// A position outside the range, or at an end of it, leaves it in one piece; an invalid range gives none. A whole range
+    /// is cut once more, into the part up to `pos` and the part from there. `pos` is not wrapped.
+    std::vector<PosRangeD> Splite(const double& pos);
+
+    /// @name Set algebra
+    ///
+    /// The operators do not know the segment count. Where a range wraps they unroll it: with L the least whole number at or
+    /// above every end in play, plus 1, its end is raised by L; the work is done on forward ranges, and ends above L come
+    /// back down by L. An end that lands on L itself stays there: (3, 0) - (1, 2) gives (3, 4). Whole ranges are taken out
+    /// first; whatever is then neither forward nor whole is treated as wrapping. The lists are neither sorted nor
+    /// merged.
+    /// @{
+
+    /// The part of this range that `other` does not cover.
+    ///
+    /// Whole minus a range is what completes it (Complementary()); anything minus whole is empty. Validity is not tested.
+    std::vector<PosRangeD> operator-(const PosRangeD& other) const;
+
+    /// The union: one range where the two overlap, else both.
+    ///
+    /// An invalid operand adds nothing, a whole one swallows the other; two that make up the loop give a whole range. Two
+    /// corners are lopsided: of two forward ranges that touch, they merge only if `other` ends where this one starts; and a
+    /// forward range in the part of a wrapping one past the seam stays a range of its own.
+    std::vector<PosRangeD> operator+(const PosRangeD& other) const;
+
+    /// The intersection. Ranges that touch do not intersect. Where a forward and a wrapping range meet, the part before the
+    /// end of the wrapping one comes first.
+    std::vector<PosRangeD> operator*(const PosRangeD& other) const;
+
+    /// @}
 };
 
 } // namespace math

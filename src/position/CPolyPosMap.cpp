@@ -16,10 +16,10 @@ template class std::vector<std::pair<double, double>>;
 namespace math
 {
 
+using detail::AreEqual;
 using detail::BothSides;
 using detail::ColumnValue;
 using detail::DestinationSide;
-using detail::IsEqual;
 using detail::Joint;
 using detail::JointList;
 using detail::NoPosition;
@@ -36,7 +36,7 @@ bool TurnsBack(const JointList& joints, int side)
     {
         const double earlier = ColumnValue(joints[i], side);
         const double later = ColumnValue(joints[i + 1], side);
-        if (!IsEqual(earlier, later) && (up ? later < earlier : later > earlier))
+        if (!AreEqual(earlier, later) && (up ? later < earlier : later > earlier))
         {
             return true;
         }
@@ -127,7 +127,7 @@ std::pair<double, double> CPolyPosMap::Back() const
 
 bool CPolyPosMap::IsPosPairEqual(const std::pair<double, double>& a, const std::pair<double, double>& b)
 {
-    return IsEqual(a.first, b.first) && IsEqual(a.second, b.second);
+    return AreEqual(a.first, b.first) && AreEqual(a.second, b.second);
 }
 
 void CPolyPosMap::Reverse()
@@ -166,7 +166,7 @@ bool CPolyPosMap::IsIdentity() const
         return false;
     }
     return std::all_of(m_posPairs.begin(), m_posPairs.end(),
-                       [](const Joint& joint) { return IsEqual(joint.first, joint.second); });
+                       [](const Joint& joint) { return AreEqual(joint.first, joint.second); });
 }
 
 bool CPolyPosMap::IsInvalid() const
@@ -230,8 +230,8 @@ bool CPolyPosMap::IsPoint(const int& side) const
     {
         return true;
     }
-    const bool sourceStands = IsEqual(m_posPairs.front().first, m_posPairs.back().first);
-    const bool destinationStands = IsEqual(m_posPairs.front().second, m_posPairs.back().second);
+    const bool sourceStands = AreEqual(m_posPairs.front().first, m_posPairs.back().first);
+    const bool destinationStands = AreEqual(m_posPairs.front().second, m_posPairs.back().second);
     switch (side)
     {
     case SourceSide:

@@ -13,9 +13,9 @@
 namespace math
 {
 
+using detail::AreEqual;
 using detail::DestinationSide;
 using detail::ImageTable;
-using detail::IsEqual;
 using detail::Joint;
 using detail::JointList;
 using detail::SourceSide;
@@ -78,7 +78,7 @@ void SortUniquePositions(std::vector<double>& positions, bool ascending)
     std::size_t kept = 0;
     for (const double position : positions)
     {
-        if (kept > 0 && IsEqual(positions[kept - 1], position))
+        if (kept > 0 && AreEqual(positions[kept - 1], position))
         {
             --kept;
         }
@@ -89,7 +89,7 @@ void SortUniquePositions(std::vector<double>& positions, bool ascending)
 
 bool IsSamePositionList(const std::vector<double>& a, const std::vector<double>& b)
 {
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](double x, double y) { return IsEqual(x, y); });
+    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](double x, double y) { return AreEqual(x, y); });
 }
 
 /// Tells whether a normal map runs past the count on a side.
@@ -102,7 +102,7 @@ bool CrossesSeam(const CPolyPosMap& map, int side)
     }
     const PosRangeD covered = map.GetRange(side, false);
     const double boundary = static_cast<double>((detail::WholeLaps(covered.start, segmentCount) + 1) * segmentCount);
-    return !IsEqual(covered.end, boundary) && covered.end > boundary;
+    return !AreEqual(covered.end, boundary) && covered.end > boundary;
 }
 
 bool KeepsDirection(const CPolyPosMap& map)
@@ -194,7 +194,7 @@ void Composition::CollectImages()
             // What interpolation at the key missed, for instance the value of a joint on another lap.
             for (const double landed : preimage->second)
             {
-                if (std::none_of(between.begin(), between.end(), [&](double x) { return IsEqual(x, landed); }))
+                if (std::none_of(between.begin(), between.end(), [&](double x) { return AreEqual(x, landed); }))
                 {
                     between.push_back(landed);
                 }
@@ -277,7 +277,7 @@ void CutBeyond(JointList& joints, int side, double limit, bool upward)
     for (std::size_t i = 0; i < joints.size();)
     {
         const double value = detail::ColumnValue(joints[i], side);
-        if (IsEqual(value, limit))
+        if (AreEqual(value, limit))
         {
             reached = true;
             ++i;

@@ -7,10 +7,10 @@
 namespace math
 {
 
+using detail::AreEqual;
 using detail::BothSides;
 using detail::ColumnValue;
 using detail::DestinationSide;
-using detail::IsEqual;
 using detail::Joint;
 using detail::JointList;
 using detail::SourceSide;
@@ -36,7 +36,7 @@ void TurnColumn(JointList& joints, int side, int segmentCount)
 
 bool IsAtSeam(double position, int segmentCount)
 {
-    return detail::IsZero(position) || IsEqual(position, segmentCount);
+    return detail::IsZero(position) || AreEqual(position, segmentCount);
 }
 
 } // namespace

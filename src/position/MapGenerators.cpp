@@ -11,7 +11,7 @@
 namespace math
 {
 
-using detail::IsEqual;
+using detail::AreEqual;
 using detail::Joint;
 using detail::JointList;
 using detail::NoPosition;
@@ -114,7 +114,7 @@ JointList JointsOfStretch(double start, double end)
         joints.emplace_back(static_cast<double>(node - startSegment), static_cast<double>(node));
     }
     const double lastNode = static_cast<double>(endSegment);
-    if (!IsEqual(end, lastNode) && lastNode < end)
+    if (!AreEqual(end, lastNode) && lastNode < end)
     {
         joints.emplace_back(static_cast<double>(endSegment - startSegment + 1), end);
     }
@@ -148,7 +148,7 @@ CPolyPosMap CPolyPosMapUtilies::GenerateWholeMap(const int& segmentCount, const 
 
 CPolyPosMap CPolyPosMapUtilies::ResetZero(const double& pos, const int& segmentCount)
 {
-    if (detail::IsZero(pos) || IsEqual(pos, segmentCount))
+    if (detail::IsZero(pos) || AreEqual(pos, segmentCount))
     {
         return GenerateWholeMap(segmentCount, false);
     }
@@ -237,7 +237,7 @@ CPolyPosMap CPolyPosMapUtilies::GeneratePosMapFromPosRangeVec(const std::vector<
 CPolyPosMap CPolyPosMapUtilies::GeneratePosMapFromPosRange2Pos(const PosRangeD& range, const double& pos,
                                                                const int& srcSegmentCount, const int& dstSegmentCount)
 {
-    if (IsEqual(range.start, range.end))
+    if (AreEqual(range.start, range.end))
     {
         return CPolyPosMap({{0.0, pos}}, 0, dstSegmentCount);
     }
@@ -249,7 +249,7 @@ CPolyPosMap CPolyPosMapUtilies::GeneratePosMapFromPosRange2Pos(const PosRangeD& 
 CPolyPosMap CPolyPosMapUtilies::GeneratePosMapFromCadByPosrange2OriginCad(const PosRangeD& range,
                                                                           const int& segmentCount)
 {
-    if (IsEqual(range.start, range.end))
+    if (AreEqual(range.start, range.end))
     {
         return CPolyPosMap({{0.0, range.end}}, 0, segmentCount);
     }

@@ -8,10 +8,10 @@
 namespace math
 {
 
+using detail::AreEqual;
 using detail::BothSides;
 using detail::ColumnValue;
 using detail::DestinationSide;
-using detail::IsEqual;
 using detail::NoPosition;
 using detail::SourceSide;
 
@@ -25,7 +25,7 @@ void SortUniqueImages(std::vector<double>& images, bool ascending)
     std::size_t kept = 0;
     for (const double image : images)
     {
-        if (kept == 0 || !IsEqual(images[kept - 1], image))
+        if (kept == 0 || !AreEqual(images[kept - 1], image))
         {
             images[kept++] = image;
         }
@@ -69,7 +69,7 @@ std::vector<double> CPolyPosMap::MultyDouble(const double& pos, const bool& both
             atCount = *this * countFace;
         }
     }
-    else if (IsEqual(wrapped, countFace))
+    else if (AreEqual(wrapped, countFace))
     {
         atCount = *this * wrapped;
         if (bothSeamFaces)
@@ -128,7 +128,7 @@ bool CPolyPosMap::IsOverRange(const double& pos, const int& side) const
     }
     if (IsPoint(side))
     {
-        return !IsEqual(pos, ColumnValue(m_posPairs.front(), side));
+        return !AreEqual(pos, ColumnValue(m_posPairs.front(), side));
     }
     // The source count wraps the position on either side.
     const double wrapped = PosRangeD::NormalizePos(pos, m_srcSegmentCount);

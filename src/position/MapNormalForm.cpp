@@ -69,7 +69,7 @@ void FillColumn(JointList& joints, int side, int segmentCount)
         detail::InsertJoint(joints, static_cast<double>(node), side);
     }
     const double span = std::abs(ColumnValue(joints.back(), side) - ColumnValue(joints.front(), side));
-    if (span > segmentCount && !detail::IsEqual(span, segmentCount))
+    if (span > segmentCount && !detail::AreEqual(span, segmentCount))
     {
         joints.pop_back();
     }

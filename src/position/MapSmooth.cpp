@@ -9,8 +9,8 @@
 namespace math
 {
 
+using detail::AreEqual;
 using detail::DestinationSide;
-using detail::IsEqual;
 using detail::Joint;
 using detail::JointList;
 using detail::SourceSide;
@@ -26,7 +26,7 @@ bool StandsStill(double a, double b, int segmentCount)
 
 bool IsBelow(double value, double limit)
 {
-    return IsEqual(value, limit) || !(value >= limit);
+    return AreEqual(value, limit) || !(value >= limit);
 }
 
 /// Three joints in a row. On a closed map the last joint and the first are one place, and the corner between them is the
@@ -103,8 +103,8 @@ void CPolyPosMap::Smooth(const double& maxStep, const double& maxStepDifference)
     {
         return;
     }
-    const bool closed = IsEqual(std::abs(joints.back().first - joints.front().first), m_srcSegmentCount) &&
-                        IsEqual(std::abs(joints.back().second - joints.front().second), m_dstSegmentCount);
+    const bool closed = AreEqual(std::abs(joints.back().first - joints.front().first), m_srcSegmentCount) &&
+                        AreEqual(std::abs(joints.back().second - joints.front().second), m_dstSegmentCount);
 
     for (std::size_t before = 0; before + 1 < joints.size();)
     {

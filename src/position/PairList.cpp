@@ -52,7 +52,7 @@ bool IsStraight(const Joint& before, const Joint& joint, const Joint& after, int
     {
         return false;
     }
-    return IsEqual(Slope(before, joint, runSide), Slope(joint, after, runSide));
+    return AreEqual(Slope(before, joint, runSide), Slope(joint, after, runSide));
 }
 
 } // namespace
@@ -65,7 +65,7 @@ std::int64_t WholeLaps(double position, int segmentCount)
 
 int FindLeftIndex(const JointList& joints, double position, int side)
 {
-    const auto isNear = [&](const Joint& joint) { return IsEqual(ColumnValue(joint, side), position); };
+    const auto isNear = [&](const Joint& joint) { return AreEqual(ColumnValue(joint, side), position); };
     const auto lastNear = std::find_if(joints.rbegin(), joints.rend(), isNear);
     if (joints.empty() || lastNear != joints.rend())
     {
@@ -81,7 +81,7 @@ int FindLeftIndex(const JointList& joints, double position, int side)
 
 int FindRightIndex(const JointList& joints, double position, int side)
 {
-    const auto isNear = [&](const Joint& joint) { return IsEqual(ColumnValue(joint, side), position); };
+    const auto isNear = [&](const Joint& joint) { return AreEqual(ColumnValue(joint, side), position); };
     const auto firstNear = std::find_if(joints.begin(), joints.end(), isNear);
     if (joints.empty() || firstNear != joints.end())
     {
@@ -104,7 +104,7 @@ std::vector<double> Evaluate(const JointList& joints, double position)
     std::vector<double> images;
     for (const Joint& joint : joints)
     {
-        if (IsEqual(joint.first, position))
+        if (AreEqual(joint.first, position))
         {
             images.push_back(joint.second);
         }
@@ -131,7 +131,7 @@ Joint InsertJoint(JointList& joints, double position, int side)
     {
         return {NoPosition, NoPosition};
     }
-    const auto isNear = [&](const Joint& joint) { return IsEqual(ColumnValue(joint, side), position); };
+    const auto isNear = [&](const Joint& joint) { return AreEqual(ColumnValue(joint, side), position); };
     const auto known = std::find_if(joints.begin(), joints.end(), isNear);
     if (known != joints.end())
     {

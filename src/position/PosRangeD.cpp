@@ -10,7 +10,7 @@
 namespace math
 {
 
-using detail::IsEqual;
+using detail::AreEqual;
 using detail::IsZero;
 using detail::NoPosition;
 
@@ -74,7 +74,7 @@ double PosRangeD::NormalizePos(const double& pos, const int& segmentCount)
         return NoPosition;
     }
     const double lap = segmentCount;
-    if (IsZero(pos) || IsEqual(pos, lap))
+    if (IsZero(pos) || AreEqual(pos, lap))
     {
         return pos;
     }
@@ -105,11 +105,11 @@ double PosRangeD::NormalizePos(const double& pos, const PosRangeD& range, const 
     }
     const double lowEnd = range.start;
     double highEnd = range.end;
-    if (lowEnd > highEnd || IsEqual(lowEnd, highEnd))
+    if (lowEnd > highEnd || AreEqual(lowEnd, highEnd))
     {
         highEnd += segmentCount;
     }
-    if (IsEqual(pos, lowEnd) || IsEqual(pos, highEnd))
+    if (AreEqual(pos, lowEnd) || AreEqual(pos, highEnd))
     {
         return pos;
     }
@@ -120,7 +120,7 @@ double PosRangeD::NormalizePos(const double& pos, const PosRangeD& range, const 
 
     const double firstLap = static_cast<double>(detail::WholeLaps(lowEnd, segmentCount));
     double lastLap = static_cast<double>(detail::WholeLaps(highEnd, segmentCount));
-    if (IsEqual(highEnd, lastLap * segmentCount))
+    if (AreEqual(highEnd, lastLap * segmentCount))
     {
         // An end at a seam belongs to the lap that it closes.
         lastLap -= 1.0;
@@ -145,7 +145,7 @@ bool PosRangeD::IsInvalid() const
 
 bool PosRangeD::IsWholeRange() const
 {
-    return !IsInvalid() && IsEqual(start, end);
+    return !IsInvalid() && AreEqual(start, end);
 }
 
 bool PosRangeD::IsContain(const double& pos) const
@@ -158,7 +158,7 @@ bool PosRangeD::IsContain(const double& pos) const
     {
         return pos > start && pos < end;
     }
-    if (IsEqual(start, end))
+    if (AreEqual(start, end))
     {
         return true;
     }
@@ -171,7 +171,7 @@ bool PosRangeD::IsOn(const double& pos) const
     {
         return false;
     }
-    return IsEqual(start, pos) || IsEqual(end, pos);
+    return AreEqual(start, pos) || AreEqual(end, pos);
 }
 
 bool PosRangeD::IsContainZero() const
@@ -180,7 +180,7 @@ bool PosRangeD::IsContainZero() const
     {
         return false;
     }
-    return IsEqual(start, end) || start > end;
+    return AreEqual(start, end) || start > end;
 }
 
 bool PosRangeD::IsOverlap(const PosRangeD& other) const
@@ -208,11 +208,11 @@ bool PosRangeD::IsContain(const PosRangeD& other) const
     }
     const bool containsStart = IsContain(other.start);
     const bool containsEnd = IsContain(other.end);
-    if (IsEqual(end, other.end) && containsStart)
+    if (AreEqual(end, other.end) && containsStart)
     {
         return true;
     }
-    if (IsEqual(start, other.start) && containsEnd)
+    if (AreEqual(start, other.start) && containsEnd)
     {
         return true;
     }
@@ -229,7 +229,7 @@ bool PosRangeD::IsComplementary(const PosRangeD& other) const
     {
         return false;
     }
-    return IsEqual(end, other.start) && IsEqual(start, other.end);
+    return AreEqual(end, other.start) && AreEqual(start, other.end);
 }
 
 bool PosRangeD::operator==(const PosRangeD& other) const
@@ -242,7 +242,7 @@ bool PosRangeD::operator==(const PosRangeD& other) const
     {
         return IsWholeRange() && other.IsWholeRange();
     }
-    return IsEqual(start, other.start) && IsEqual(end, other.end);
+    return AreEqual(start, other.start) && AreEqual(end, other.end);
 }
 
 bool PosRangeD::operator!=(const PosRangeD& other) const

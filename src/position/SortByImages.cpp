@@ -30,7 +30,7 @@ public:
 private:
     bool LiesBefore(double image, double otherImage) const
     {
-        return !IsEqual(image, otherImage) && (m_upward ? image < otherImage : image > otherImage);
+        return !AreEqual(image, otherImage) && (m_upward ? image < otherImage : image > otherImage);
     }
 
     const ImageTable& m_images;

@@ -1,0 +1,76 @@
+#include "math/CPolyPosMap.h"
+
+#include "position/PairList.h"
+
+namespace math
+{
+
+using detail::ColumnValue;
+using detail::DestinationSide;
+using detail::Joint;
+using detail::JointList;
+using detail::SourceSide;
+
+namespace
+{
+
+void LiftColumn(JointList& joints, int side, int segmentCount)
+{
+    for (Joint& joint : joints)
+    {
+        ColumnValue(joint, side) += segmentCount;
+    }
+}
+
+/// Lifts the walk with the higher values past the seam where the column would run backwards: the later one upward, the earlier
+/// one downward.
+void LiftOverSeam(JointList& earlier, JointList& later, int side, bool upward, int segmentCount)
+{
+    if (upward)
+    {
+        if (ColumnValue(earlier.back(), side) > ColumnValue(later.back(), side))
+        {
+            LiftColumn(later, side, segmentCount);
+        }
+    }
+    else if (ColumnValue(later.front(), side) > ColumnValue(earlier.front(), side))
+    {
+        LiftColumn(earlier, side, segmentCount);
+    }
+}
+
+} // namespace
+
+CPolyPosMap CPolyPosMap::operator+(const CPolyPosMap& other) const
+{
+    if (IsInvalid() || other.IsInvalid() || m_srcSegmentCount != other.m_srcSegmentCount ||
+        m_dstSegmentCount != other.m_dstSegmentCount)
+    {
+        return CPolyPosMap();
+    }
+    if (IsEmpty())
+    {
+        return other;
+    }
+    if (other.IsEmpty())
+    {
+        return *this;
+    }
+    JointList earlier = m_posPairs;
+    JointList later = other.m_posPairs;
+    LiftOverSeam(earlier, later, DestinationSide, IsIncrease(DestinationSide), m_dstSegmentCount);
+    LiftOverSeam(earlier, later, SourceSide, IsIncrease(SourceSide), m_srcSegmentCount);
+    earlier.insert(earlier.end(), later.begin(), later.end());
+    return CPolyPosMap(earlier, m_srcSegmentCount, m_dstSegmentCount);
+}
+
+CPolyPosMap& CPolyPosMap::operator+=(const CPolyPosMap& other)
+{
+    if (!IsInvalid())
+    {
+        *this = *this + other;
+    }
+    return *this;
+}
+
+} // namespace math
