@@ -140,6 +140,9 @@ public:
     const IntAna2d_IntPoint& Point(int n) const;
 
 private:
+    void SetPointCount(int count);
+    void SetCoincidence(bool areIdentical);
+
     bool isDone;
     bool isParallel;
     bool isIdentical;
@@ -215,5 +218,5 @@ public:
 
 private:
     int status;
-    gp_Circ2d circle;
+    gp_Circ2d result;
 };

@@ -1,0 +1,107 @@
+#include "primitives/RequireChecks.h"
+
+#include "math/AnalyticKernel.h"
+#include "math/Primitives.h"
+#include "primitives/Constants.h"
+#include "primitives/Tolerance.h"
+
+#include <cmath>
+
+#include <gp_Vec2d.hxx>
+
+namespace math
+{
+
+namespace
+{
+
+bool IsCentreOnTheLeft(double bulge)
+{
+    return (0.0 < bulge && bulge <= 1.0) || bulge <= -1.0;
+}
+
+DPOINT2 CentreOfArc(const DPOINT2& first, const DPOINT2& second, double bulge, double distanceFromChord)
+{
+    gp_Vec2d leftNormal(-(second.y - first.y), second.x - first.x);
+    leftNormal.Normalize();
+    const double middleX = (first.x + second.x) * 0.5;
+    const double middleY = (first.y + second.y) * 0.5;
+    const double stepX = distanceFromChord * leftNormal.X();
+    const double stepY = distanceFromChord * leftNormal.Y();
+    if (IsCentreOnTheLeft(bulge))
+    {
+        return {middleX + stepX, middleY + stepY};
+    }
+    return {middleX - stepX, middleY - stepY};
+}
+
+double StartOfArc(const DPOINT2& first, const DPOINT2& centre)
+{
+    const double radian = std::atan2(first.y - centre.y, first.x - centre.x) + detail::TwoPi;
+    return radian >= detail::TwoPi ? radian - detail::TwoPi : radian;
+}
+
+template <typename Value>
+void Write(Value* output, const Value& value)
+{
+    if (output != nullptr)
+    {
+        *output = value;
+    }
+}
+
+} // namespace
+
+DPOINT2 GetPointInCircle(const DPOINT2& centre, double radius, double radian)
+{
+    return {centre.x + std::cos(radian) * radius, centre.y + std::sin(radian) * radius};
+}
+
+bool SolveArc(DPOINT2 first, DPOINT2 second, double bulge, DPOINT2* centre, double* radius, double* startRadian,
+              double* sweep)
+{
+    const double chordLength = D2GetDistance(first, second);
+    if (detail::IsZero(chordLength) || detail::IsZero(bulge))
+    {
+        return false;
+    }
+    if (centre == nullptr && radius == nullptr && startRadian == nullptr && sweep == nullptr)
+    {
+        return false;
+    }
+    const double solvedSweep = 4.0 * std::atan(bulge);
+    const double solvedRadius = std::abs((chordLength * 0.5) / std::sin(solvedSweep * 0.5));
+    const double distanceFromChord = std::abs(std::cos(solvedSweep * 0.5) * solvedRadius);
+    const DPOINT2 solvedCentre = CentreOfArc(first, second, bulge, distanceFromChord);
+    Write(sweep, solvedSweep);
+    Write(radius, solvedRadius);
+    Write(centre, solvedCentre);
+    Write(startRadian, StartOfArc(first, solvedCentre));
+    return true;
+}
+
+bool CreateCircleFrom3Point(const DPOINT2& p1, const DPOINT2& p2, const DPOINT2& p3, DPOINT2* centre, double* radius)
+{
+    if (centre == nullptr || radius == nullptr)
+    {
+        return false;
+    }
+    try
+    {
+        const gce_MakeCirc2d made(gp_Pnt2d(p1.x, p1.y), gp_Pnt2d(p2.x, p2.y), gp_Pnt2d(p3.x, p3.y));
+        if (!made.IsDone())
+        {
+            return false;
+        }
+        const gp_Circ2d& circle = made.Value();
+        *centre = {circle.Location().X(), circle.Location().Y()};
+        *radius = circle.Radius();
+        return true;
+    }
+    catch (...)
+    {
+        return false;
+    }
+}
+
+} // namespace math

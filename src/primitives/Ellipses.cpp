@@ -1,0 +1,124 @@
+#include "math/Primitives.h"
+#include "primitives/Constants.h"
+#include "primitives/Fold.h"
+#include "primitives/OwnFrame.h"
+#include "primitives/Tolerance.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace math
+{
+
+namespace
+{
+
+bool IsDescriptionOfArc(double a, double b, double startRadian, double sweep)
+{
+    return 0.0 < b && b <= a && 0.0 <= startRadian && startRadian < detail::TwoPi && 0.0 < sweep &&
+           sweep < detail::TwoPi;
+}
+
+DPOINT2 EndOfArc(double a, double b, double radian)
+{
+    const double parameter = detail::EccentricParameter(radian, a, b, detail::HalfTurn::AwayFromTheVertices);
+    return detail::PointAtEccentricParameter(parameter, a, b);
+}
+
+// The chord y = slope * x + offset lies between the two tangents of its slope, y = slope * x ± reach.
+double HeightOverSlopingChord(double a, double b, const DPOINT2& start, const DPOINT2& end, double sweep)
+{
+    const double slope = (end.y - start.y) / (end.x - start.x);
+    const double offset = start.y - slope * start.x;
+    const double reach = std::sqrt((a * a) * (slope * slope) + b * b);
+    const double cosine = std::cos(std::atan(slope));
+    const double toLower = std::abs(-reach - offset) * cosine;
+    const double toUpper = std::abs(reach - offset) * cosine;
+    return sweep <= detail::Pi ? std::min(toLower, toUpper) : std::max(toLower, toUpper);
+}
+
+double HeightOverUprightChord(double a, const DPOINT2& start, double sweep)
+{
+    return sweep <= detail::Pi ? a - std::abs(start.x) : a + std::abs(start.x);
+}
+
+// In the ellipse's own frame, for a direction folded into [0, π).
+std::pair<DPOINT2, DPOINT2> OwnTangentPoints(double a, double b, double direction)
+{
+    if (detail::IsZero(direction) || detail::AreEqual(direction, detail::Pi))
+    {
+        return {{0.0, -b}, {0.0, b}};
+    }
+    if (detail::AreEqual(direction, detail::HalfPi))
+    {
+        return {{-a, 0.0}, {a, 0.0}};
+    }
+    const double tangent = std::tan(direction);
+    const double scaled = (tangent * tangent) * (a * a);
+    const double divisor = scaled + b * b;
+    const double x = std::sqrt(scaled * a * a / divisor);
+    const double y = std::sqrt((b * b) * (b * b) / divisor);
+    if (0.0 < direction && direction < detail::HalfPi)
+    {
+        return {{-x, y}, {x, -y}};
+    }
+    return {{x, y}, {-x, -y}};
+}
+
+} // namespace
+
+DPOINT2 GetPointInEllipse(const DPOINT2& centre, double a, double b, double rotation, double radian)
+{
+    const double parameter = detail::EccentricParameter(radian, a, b, detail::HalfTurn::RightUpToTheVertices);
+    return detail::OutOfOwnFrame(detail::PointAtEccentricParameter(parameter, a, b), centre, rotation);
+}
+
+double GetHeightOfEllipseArc(double a, double b, double startRadian, double sweep)
+{
+    if (!IsDescriptionOfArc(a, b, startRadian, sweep))
+    {
+        return InvalidDouble;
+    }
+    const DPOINT2 start = EndOfArc(a, b, startRadian);
+    const DPOINT2 end = EndOfArc(a, b, detail::Fold(startRadian + sweep, detail::TwoPi));
+    if (detail::AreEqual(start.x, end.x))
+    {
+        return HeightOverUprightChord(a, start, sweep);
+    }
+    return HeightOverSlopingChord(a, b, start, end, sweep);
+}
+
+double GetTangentAngleOfEllipse(const DPOINT2& centre, double a, double b, double rotation, const DPOINT2& point)
+{
+    const DPOINT2 own = detail::IntoOwnFrame(point, centre, rotation);
+    if (!detail::IsZero(own.y * own.y / (b * b) + own.x * own.x / (a * a) - 1.0))
+    {
+        return InvalidDouble;
+    }
+    const double angle = detail::IsZero(own.y) ? detail::HalfPi : std::atan((own.x * b * b * (-1.0)) / (own.y * a * a));
+    return RegularizeIncludedRadian(angle + rotation);
+}
+
+int GetTangentPointOfEllipse(const DPOINT2& centre, double a, double b, double rotation, double radian, DPOINT2* first,
+                             DPOINT2* second)
+{
+    if (first == nullptr && second == nullptr)
+    {
+        return 2;
+    }
+    const auto [ownFirst, ownSecond] = OwnTangentPoints(a, b, RegularizeIncludedRadian(radian - rotation));
+    const DPOINT2 worldFirst = detail::OutOfOwnFrame(ownFirst, centre, rotation);
+    const DPOINT2 worldSecond = detail::OutOfOwnFrame(ownSecond, centre, rotation);
+    if (first != nullptr)
+    {
+        *first = worldFirst;
+    }
+    if (second != nullptr)
+    {
+        *second = worldSecond;
+    }
+    return 2;
+}
+
+} // namespace math

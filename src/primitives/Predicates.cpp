@@ -1,0 +1,185 @@
+#include "math/Primitives.h"
+#include "primitives/Constants.h"
+#include "primitives/EllipseClassification.h"
+#include "primitives/OwnFrame.h"
+#include "primitives/Tolerance.h"
+#include "primitives/Vectors.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace math
+{
+
+namespace
+{
+
+double SignOf(bool ccw)
+{
+    return ccw ? 1.0 : -1.0;
+}
+
+bool IsBetween(double value, double oneEnd, double otherEnd, double tolerance)
+{
+    return value >= std::min(oneEnd, otherEnd) - tolerance && value <= std::max(oneEnd, otherEnd) + tolerance;
+}
+
+} // namespace
+
+namespace detail
+{
+
+PlaceOnEllipse ClassifyPointToEllipse(const DPOINT2& point, const DPOINT2& centre, double a, double b, double rotation)
+{
+    const DPOINT2 own = IntoOwnFrame(point, centre, rotation);
+    const double value = own.y * own.y / b / b + own.x * own.x / a / a;
+    // The order of the tests leads a NaN to the inside.
+    if (AreEqual(value, 1.0))
+    {
+        return PlaceOnEllipse::OnCurve;
+    }
+    return value > 1.0 ? PlaceOnEllipse::Outside : PlaceOnEllipse::Inside;
+}
+
+} // namespace detail
+
+bool IsPointInLine(const DPOINT2& point, const DPOINT2& a, const DPOINT2& b)
+{
+    return IsPointInLine(point, a, b, DoubleTolerance);
+}
+
+bool IsPointInLine(const DPOINT2& point, const DPOINT2& a, const DPOINT2& b, const double& tolerance)
+{
+    try
+    {
+        const gp_Dir2d direction = detail::DirectionBetween(a, b);
+        const double offset = std::abs(direction.Y() * (point.x - a.x) - (point.y - a.y) * direction.X());
+        // Also false for a point of NaN, which no range below would catch if it is tested in the other coordinate.
+        if (!(offset <= tolerance))
+        {
+            return false;
+        }
+        if (std::abs(a.x - b.x) > std::abs(a.y - b.y))
+        {
+            return IsBetween(point.x, a.x, b.x, tolerance);
+        }
+        return IsBetween(point.y, a.y, b.y, tolerance);
+    }
+    catch (...)
+    {
+        return false;
+    }
+}
+
+bool IsPointProjInLine(const DPOINT2& point, const DPOINT2& a, const DPOINT2& b)
+{
+    const double fromStart = D2DotMultiply(detail::VectorBetween(a, b), detail::VectorBetween(a, point));
+    const double fromEnd = D2DotMultiply(detail::VectorBetween(b, a), detail::VectorBetween(b, point));
+    return fromStart >= 0.0 && fromEnd >= 0.0;
+}
+
+bool IsPointInArc(const DPOINT2& point, const DPOINT2& centre, double radius, double startRadian, double extent,
+                  bool ccw)
+{
+    return IsPointInArc(point, centre, radius, startRadian, extent, ccw, DoubleTolerance);
+}
+
+bool IsPointInArc(const DPOINT2& point, const DPOINT2& centre, double radius, double startRadian, double extent,
+                  bool ccw, const double& tolerance)
+{
+    if (radius <= 0.0)
+    {
+        return false;
+    }
+    // The caller's tolerance is an angle and has no say in the distance.
+    if (!detail::AreEqual(D2GetDistance(point, centre), radius))
+    {
+        return false;
+    }
+    const double sign = SignOf(ccw);
+    const double endRadian = startRadian + sign * extent;
+    if (detail::CoincideByDistance(point, GetPointInCircle(centre, radius, startRadian)) ||
+        detail::CoincideByDistance(point, GetPointInCircle(centre, radius, endRadian)))
+    {
+        return true;
+    }
+    const double direction = D2GetNormalAngle(point.x - centre.x, point.y - centre.y);
+    return RegularizeRadian((direction - startRadian) * sign) <= extent + tolerance;
+}
+
+bool IsPointInArc(const DPOINT2& point, const DPOINT2& centre, const DPOINT2& arcStart, const DPOINT2& arcEnd, bool ccw)
+{
+    const gp_Vec2d toStart = detail::VectorBetween(centre, arcStart);
+    const gp_Vec2d toEnd = detail::VectorBetween(centre, arcEnd);
+    if (std::isnan(D2RotateAngle(toStart, toEnd)) || !detail::AreEqual(toStart.Magnitude(), toEnd.Magnitude()))
+    {
+        return false;
+    }
+    if (detail::CoincideByDistance(point, arcStart) || detail::CoincideByDistance(point, arcEnd))
+    {
+        return true;
+    }
+    const double startRadian = D2GetNormalAngle(toStart.X(), toStart.Y());
+    const double endRadian = D2GetNormalAngle(toEnd.X(), toEnd.Y());
+    const double extent = RegularizeRadian((endRadian - startRadian) * SignOf(ccw));
+    return IsPointInArc(point, centre, toStart.Magnitude(), startRadian, extent, ccw, DoubleTolerance);
+}
+
+bool IsAngleInSector(double angle, double startRadian, double extent)
+{
+    return RegularizeRadian(angle - startRadian) <= extent;
+}
+
+bool IsAngleInSector(double angle, double startRadian, double extent, bool ccw)
+{
+    const double fromStart = RegularizeRadian(SignOf(ccw) * (angle - startRadian));
+    // The second test admits an angle just before the start.
+    return fromStart <= extent + DoubleTolerance || detail::AreEqual(fromStart, detail::TwoPi);
+}
+
+bool IsPointInEllipse(const DPOINT2& point, const DPOINT2& centre, double a, double b, double rotation)
+{
+    return detail::ClassifyPointToEllipse(point, centre, a, b, rotation) == detail::PlaceOnEllipse::OnCurve;
+}
+
+bool IsPointInsideEllipse(const DPOINT2& point, const DPOINT2& centre, double a, double b, double rotation)
+{
+    return detail::ClassifyPointToEllipse(point, centre, a, b, rotation) == detail::PlaceOnEllipse::Inside;
+}
+
+bool IsPointOutsideEllipse(const DPOINT2& point, const DPOINT2& centre, double a, double b, double rotation)
+{
+    return detail::ClassifyPointToEllipse(point, centre, a, b, rotation) == detail::PlaceOnEllipse::Outside;
+}
+
+bool IsPointInEllipseArc(const DPOINT2& point, const DPOINT2& centre, double a, double b, double rotation,
+                         double startRadian, double extent)
+{
+    const double start = RegularizeRadian(startRadian);
+    const double end = RegularizeRadian(startRadian + extent);
+    if (detail::CoincideByDistance(point, GetPointInEllipse(centre, a, b, rotation, start)) ||
+        detail::CoincideByDistance(point, GetPointInEllipse(centre, a, b, rotation, end)))
+    {
+        return true;
+    }
+    const double direction = D2GetNormalAngle(point.x - centre.x, point.y - centre.y);
+    if (!IsPointInEllipse(point, centre, a, b, rotation))
+    {
+        return false;
+    }
+    const double base = RegularizeRadian(rotation + startRadian);
+    return RegularizeRadian(direction - base) <= extent;
+}
+
+bool IsPointInEllipseArc(const DPOINT2& point, const DPOINT2& centre, double a, double b, double rotation,
+                         double startRadian, double extent, bool ccw)
+{
+    if (!IsPointInEllipse(point, centre, a, b, rotation))
+    {
+        return false;
+    }
+    const double direction = D2GetNormalAngle(point.x - centre.x, point.y - centre.y);
+    return IsAngleInSector(direction, rotation + startRadian, extent, ccw);
+}
+
+} // namespace math
