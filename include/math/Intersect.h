@@ -15,9 +15,10 @@
 ///   start, a negative one clockwise, and its absolute value is the extent. A sweep of 0 holds the start point alone.
 ///
 /// **Beelines.** The angle is first brought into [0, π). Within DoubleTolerance of π/2 the beeline is vertical,
-/// everywhere else it has the direction (1, tan angle), enormous but finite just off the vertical. The time of
-/// folding grows with the angle: above about 1e9 a fold takes a second, from about 1e17 on, and for an infinite
-/// angle, it never ends.
+/// everywhere else it has the direction (1, tan angle), enormous but finite just off the vertical.
+///
+/// **Folding.** Angles of beelines and of arcs are folded by whole turns, one at a time (Primitives.h): a huge angle
+/// takes its time, and an infinite one never returns.
 ///
 /// **Results.** The result is the number of common points. It is -1 where the two curves coincide along a length, so
 /// that there is no single point to give; a member that has no such result says so.

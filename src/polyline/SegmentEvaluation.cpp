@@ -1,0 +1,195 @@
+#include "math/CSegment.h"
+
+#include "polyline/ArcForm.h"
+#include "polyline/CubicForm.h"
+#include "primitives/RequireChecks.h"
+#include "primitives/Tolerance.h"
+
+#include <cmath>
+#include <utility>
+
+#include <gp_XY.hxx>
+
+namespace math
+{
+
+using detail::ArcForm;
+using detail::CoincideByCoordinates;
+using detail::CubicForm;
+using detail::IsZero;
+
+namespace
+{
+
+DPOINT2 Interpolate(const DPOINT2& start, const DPOINT2& end, double t)
+{
+    return {(1.0 - t) * start.x + t * end.x, (1.0 - t) * start.y + t * end.y};
+}
+
+/// Raises Standard_ConstructionError for a vector of no length.
+DPOINT2 UnitVector(double x, double y)
+{
+    gp_XY vector(x, y);
+    vector.Normalize();
+    return {vector.X(), vector.Y()};
+}
+
+/// Radius times sweep, both from the chord.
+double LengthOfArc(double chord, double bulge)
+{
+    const double extent = 4.0 * std::abs(std::atan(bulge));
+    if (IsZero(extent))
+    {
+        return chord;
+    }
+    return chord * 0.5 / std::sin(extent * 0.5) * extent;
+}
+
+/// Left-hand rectangle rule over the speed.
+double LengthOfCubic(const CubicForm& curve)
+{
+    constexpr double step = 0.001;
+    // Just below 1: the steps add up with rounding, and the sample at 1 is not to be taken.
+    constexpr double limit = 0.9999999999;
+    double length = 0.0;
+    double t = 0.0;
+    do
+    {
+        const DPOINT2 derivative = curve.DerivativeAt(t);
+        const double speed = std::sqrt(derivative.x * derivative.x + derivative.y * derivative.y);
+        t += step;
+        length += speed * step;
+    } while (t < limit);
+    return length;
+}
+
+} // namespace
+
+CSegment::CSegment() : type(SegmentNone), ctrl1()
+{
+}
+
+CSegment::CSegment(const DPOINT2& startPoint, const DPOINT2& endPoint)
+    : type(SegmentLine),
+      start(startPoint),
+      end(endPoint),
+      ctrl1()
+{
+}
+
+CSegment::CSegment(const DPOINT2& startPoint, const DPOINT2& endPoint, double arcBulge)
+    : type(SegmentArc),
+      start(startPoint),
+      end(endPoint),
+      ctrl1(arcBulge, 0.0)
+{
+}
+
+CSegment::CSegment(const DPOINT2& startPoint, const DPOINT2& firstControl, const DPOINT2& secondControl,
+                   const DPOINT2& endPoint)
+    : type(SegmentBezier),
+      start(startPoint),
+      end(endPoint),
+      ctrl1(firstControl),
+      ctrl2(secondControl)
+{
+}
+
+void CSegment::Set(const DPOINT2& startPoint, const DPOINT2& endPoint)
+{
+    const CSegment line(startPoint, endPoint);
+    type = line.type;
+    start = line.start;
+    end = line.end;
+}
+
+void CSegment::Set(const DPOINT2& startPoint, const DPOINT2& endPoint, double arcBulge)
+{
+    const CSegment arc(startPoint, endPoint, arcBulge);
+    type = arc.type;
+    start = arc.start;
+    end = arc.end;
+    bulge = arc.bulge;
+}
+
+void CSegment::Set(const DPOINT2& startPoint, const DPOINT2& firstControl, const DPOINT2& secondControl,
+                   const DPOINT2& endPoint)
+{
+    *this = CSegment(startPoint, firstControl, secondControl, endPoint);
+}
+
+DPOINT2 CSegment::GetPoint(double t) const
+{
+    switch (type)
+    {
+    case SegmentLine:
+        return Interpolate(start, end, t);
+    case SegmentArc: {
+        if (CoincideByCoordinates(start, end) || IsZero(bulge))
+        {
+            return Interpolate(start, end, t);
+        }
+        const ArcForm arc(start, end, bulge);
+        return GetPointInCircle(arc.centre, arc.radius, arc.startRadian + arc.sweep * t);
+    }
+    case SegmentBezier:
+        return CubicForm(start, ctrl1, ctrl2, end).PointAt(t);
+    default:
+        return {};
+    }
+}
+
+DPOINT2 CSegment::GetMidVector(double& t) const
+{
+    if (IsZero(bulge))
+    {
+        return UnitVector(end.x - start.x, end.y - start.y);
+    }
+    const DPOINT2 centre = ArcForm(start, end, bulge).centre;
+    const DPOINT2 point = GetPoint(t);
+    const DPOINT2 leftOfRadius(-(point.y - centre.y), point.x - centre.x);
+    return bulge < 0.0 ? UnitVector(-leftOfRadius.x, -leftOfRadius.y) : UnitVector(leftOfRadius.x, leftOfRadius.y);
+}
+
+DPOINT2 CSegment::GetStartVector() const
+{
+    double t = 0.0;
+    return GetMidVector(t);
+}
+
+DPOINT2 CSegment::GetEndVector() const
+{
+    if (IsZero(bulge))
+    {
+        // A straight segment is looked at backwards from its end, an arc is not.
+        return UnitVector(start.x - end.x, start.y - end.y);
+    }
+    double t = 1.0;
+    return GetMidVector(t);
+}
+
+double CSegment::GetLength() const
+{
+    switch (type)
+    {
+    case SegmentLine:
+        return D2GetDistance(start, end);
+    case SegmentArc:
+        return LengthOfArc(D2GetDistance(start, end), bulge);
+    case SegmentBezier:
+        return LengthOfCubic(CubicForm(start, ctrl1, ctrl2, end));
+    default:
+        return 0.0;
+    }
+}
+
+void CSegment::ReverseDir()
+{
+    std::swap(start, end);
+    if (bulge != 0.0)
+    {
+        bulge *= -1.0;
+    }
+}
+
+} // namespace math

@@ -1,0 +1,198 @@
+#include "math/CSegment.h"
+
+#include "polyline/ArcForm.h"
+#include "polyline/CubicForm.h"
+#include "primitives/Constants.h"
+#include "primitives/Tolerance.h"
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace math
+{
+
+using detail::ArcForm;
+using detail::AreEqual;
+using detail::CoincideByCoordinates;
+using detail::CubicForm;
+using detail::HalfPi;
+using detail::IsZero;
+using detail::TwoPi;
+
+namespace
+{
+
+double DirectionOfChord(const DPOINT2& start, const DPOINT2& end)
+{
+    const double direction = std::atan2(end.y - start.y, end.x - start.x) + TwoPi;
+    return direction >= TwoPi ? direction - TwoPi : direction;
+}
+
+/// The tangent of an arc. One turn at most is corrected before and after the quarter turn.
+double DirectionOfArc(const ArcForm& arc, double bulge, double t)
+{
+    double radial = arc.sweep * t + arc.startRadian;
+    if (radial >= TwoPi)
+    {
+        radial -= TwoPi;
+    }
+    else if (radial <= -TwoPi)
+    {
+        radial += TwoPi;
+    }
+    const double direction = bulge <= 0.0 ? radial - HalfPi : radial + HalfPi;
+    if (direction >= TwoPi)
+    {
+        return direction - TwoPi;
+    }
+    return direction >= 0.0 ? direction : direction + TwoPi;
+}
+
+double DirectionOfCubic(const CubicForm& curve, double t)
+{
+    const DPOINT2 derivative = curve.DerivativeAt(t);
+    const double norm = std::sqrt(derivative.x * derivative.x + derivative.y * derivative.y);
+    const double included = std::acos(derivative.x / norm);
+    return derivative.y >= 0.0 ? included : TwoPi - included;
+}
+
+void Extend(DRECT& box, const DPOINT2& point)
+{
+    box.Union(box, {point.x, point.y, 0.0, 0.0});
+}
+
+/// Tells whether an arc reaches a direction. An arc may run on past 2π or below 0, by less than a turn.
+bool Reaches(const ArcForm& arc, double direction)
+{
+    const double arcEnd = arc.startRadian + arc.sweep;
+    const double least = std::min(arc.startRadian, arcEnd) - DoubleTolerance;
+    const double greatest = std::max(arc.startRadian, arcEnd) + DoubleTolerance;
+    const auto isBetween = [&](double angle) { return least <= angle && angle <= greatest; };
+    return isBetween(direction) || isBetween(direction + TwoPi) || isBetween(direction - TwoPi);
+}
+
+/// Places a hair from an end are taken for the end.
+double SnapToEnds(double t)
+{
+    if (IsZero(t))
+    {
+        return 0.0;
+    }
+    return AreEqual(t, 1.0) ? 1.0 : t;
+}
+
+/// The bulge of a piece of an arc: the tangent of a quarter of its extent, with the arc's orientation.
+double BulgeOfPiece(double ratio, double sweep, double bulge)
+{
+    const double ofExtent = std::tan(std::abs(ratio * sweep) * 0.25);
+    return bulge < 0.0 ? -ofExtent : ofExtent;
+}
+
+} // namespace
+
+double CSegment::GetAngle(double t) const
+{
+    switch (type)
+    {
+    case SegmentLine:
+        return CoincideByCoordinates(start, end) ? InvalidDouble : DirectionOfChord(start, end);
+    case SegmentArc:
+        if (CoincideByCoordinates(start, end))
+        {
+            return InvalidDouble;
+        }
+        return IsZero(bulge) ? DirectionOfChord(start, end) : DirectionOfArc(ArcForm(start, end, bulge), bulge, t);
+    case SegmentBezier:
+        return DirectionOfCubic(CubicForm(start, ctrl1, ctrl2, end), t);
+    default:
+        return InvalidDouble;
+    }
+}
+
+DRECT CSegment::GetBoundRect() const
+{
+    switch (type)
+    {
+    case SegmentLine:
+        return GetBoundRectOfLine(start, end);
+    case SegmentArc:
+        return GetBoundRectOfArc(start, end, bulge);
+    case SegmentBezier:
+        return GetBoundRectOfBezier(start, ctrl1, ctrl2, end);
+    default:
+        return {};
+    }
+}
+
+DRECT CSegment::GetBoundRectOfLine(const DPOINT2& startPoint, const DPOINT2& endPoint)
+{
+    return {std::min(startPoint.x, endPoint.x), std::min(startPoint.y, endPoint.y), std::abs(startPoint.x - endPoint.x),
+            std::abs(startPoint.y - endPoint.y)};
+}
+
+DRECT CSegment::GetBoundRectOfArc(const DPOINT2& startPoint, const DPOINT2& endPoint, double arcBulge)
+{
+    DRECT box = GetBoundRectOfLine(startPoint, endPoint);
+    if (CoincideByCoordinates(startPoint, endPoint) || IsZero(arcBulge))
+    {
+        return box;
+    }
+    const ArcForm arc(startPoint, endPoint, arcBulge);
+    const DPOINT2& centre = arc.centre;
+    const std::array axisPoints = {DPOINT2(centre.x + arc.radius, centre.y), DPOINT2(centre.x, centre.y + arc.radius),
+                                   DPOINT2(centre.x - arc.radius, centre.y), DPOINT2(centre.x, centre.y - arc.radius)};
+    for (int quarter = 0; quarter < 4; ++quarter)
+    {
+        if (Reaches(arc, quarter * HalfPi))
+        {
+            Extend(box, axisPoints[static_cast<std::size_t>(quarter)]);
+        }
+    }
+    return box;
+}
+
+DRECT CSegment::GetBoundRectOfBezier(const DPOINT2& startPoint, const DPOINT2& firstControl,
+                                     const DPOINT2& secondControl, const DPOINT2& endPoint)
+{
+    constexpr double step = 0.001;
+    // Just above 1: the steps add up with rounding, and the sample at 1 is not to be lost.
+    constexpr double limit = 1.0000000001;
+    const CubicForm curve(startPoint, firstControl, secondControl, endPoint);
+    DRECT box = {startPoint.x, startPoint.y, 0.0, 0.0};
+    for (double t = step; t <= limit; t += step)
+    {
+        Extend(box, curve.PointAt(t));
+    }
+    return box;
+}
+
+CSegment CSegment::GetSplitSegment(double t, bool first)
+{
+    const double cut = SnapToEnds(t);
+    const DPOINT2 point = GetPoint(cut);
+    if (IsZero(bulge))
+    {
+        return first ? CSegment(start, point) : CSegment(point, end);
+    }
+    const double sweep = ArcForm(start, end, bulge).sweep;
+    return first ? CSegment(start, point, BulgeOfPiece(cut, sweep, bulge))
+                 : CSegment(point, end, BulgeOfPiece(1.0 - cut, sweep, bulge));
+}
+
+CSegment CSegment::GetSplitSegment(double from, double to)
+{
+    const double pieceStart = SnapToEnds(from);
+    const double pieceEnd = SnapToEnds(to);
+    const DPOINT2 startPoint = GetPoint(pieceStart);
+    const DPOINT2 endPoint = GetPoint(pieceEnd);
+    if (IsZero(bulge))
+    {
+        return {startPoint, endPoint};
+    }
+    const double sweep = ArcForm(start, end, bulge).sweep;
+    const double along = BulgeOfPiece(pieceStart - pieceEnd, sweep, bulge);
+    return {startPoint, endPoint, pieceStart > pieceEnd ? -along : along};
+}
+
+} // namespace math
