@@ -1,7 +1,7 @@
 #pragma once
 
 /// @file
-/// Points that two plane curves share.
+/// Points that two plane curves share, and the real roots of polynomial equations.
 ///
 /// Every member is named `Intersect_` and its two curves, and takes them in the order of its name. The laws below
 /// hold for the whole family; a member tells only what it adds to them.
@@ -251,5 +251,255 @@ QORMATH_EXPORT int Intersect_ArcWithArc(const DPOINT2& firstCentre, double first
                                         double firstSweep, const DPOINT2& secondCentre, double secondRadius,
                                         double secondStart, double secondSweep, std::vector<DPOINT2>& points,
                                         int maxPoints);
+
+// ---- Straight lines with ellipses ----
+//
+// An ellipse is a centre, the semi-axis `a` along its own x axis, the semi-axis `b` across it and `rotation`, the
+// direction of its own x axis. An elliptical arc adds a start and a signed sweep: polar angles at the centre, counted
+// from the ellipse's own x axis, a positive sweep running counter-clockwise. Nothing asks for a >= b here.
+//
+// A tangency is looked for first: a point of the ellipse with the direction of the line that lies within DoubleTolerance
+// of it. Otherwise the line is moved into the ellipse's own frame and SolveQuadraticEquation gives the points, the root of
+// larger magnitude first; no side can be read from their order. Both ends of an elliptical arc count as on it within
+// DoubleTolerance of angle. Semi-axes of 0 are not tested for: they give what the divisions by them give.
+
+/// A beeline and an ellipse.
+///
+/// Unlike the rest of the family it needs both outputs and always writes both: (InvalidDouble, InvalidDouble) for a point
+/// that does not exist. A tangency is one point, in `first`.
+///
+/// @param point, angle            the beeline
+/// @param centre, a, b, rotation  the ellipse
+/// @param first, second           receive the points; never null
+/// @return 0, 1 or 2
+QORMATH_EXPORT int Intersect_BeelineWithEllipse(const DPOINT2& point, double angle, const DPOINT2& centre, double a,
+                                                double b, double rotation, DPOINT2* first, DPOINT2* second);
+
+/// A beeline and an ellipse: appends at most `maxPoints` points.
+QORMATH_EXPORT int Intersect_BeelineWithEllipse(const DPOINT2& point, double angle, const DPOINT2& centre, double a,
+                                                double b, double rotation, std::vector<DPOINT2>& points, int maxPoints);
+
+/// A beeline and an elliptical arc.
+///
+/// @param point, angle                          the beeline
+/// @param centre, a, b, rotation, start, sweep  the elliptical arc
+/// @param first, second                         receive the points; either may be null
+/// @return 0, 1 or 2
+QORMATH_EXPORT int Intersect_BeelineWithEllipseArc(const DPOINT2& point, double angle, const DPOINT2& centre, double a,
+                                                   double b, double rotation, double start, double sweep,
+                                                   DPOINT2* first, DPOINT2* second);
+
+/// A beeline and an elliptical arc: appends at most `maxPoints` points.
+QORMATH_EXPORT int Intersect_BeelineWithEllipseArc(const DPOINT2& point, double angle, const DPOINT2& centre, double a,
+                                                   double b, double rotation, double start, double sweep,
+                                                   std::vector<DPOINT2>& points, int maxPoints);
+
+/// A stretch and an ellipse.
+///
+/// @param firstEnd, secondEnd     the ends of the stretch; 0 for a stretch of no length
+/// @param centre, a, b, rotation  the ellipse
+/// @param first, second           receive the points; either may be null
+/// @return 0, 1 or 2
+QORMATH_EXPORT int Intersect_LineWithEllipse(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre,
+                                             double a, double b, double rotation, DPOINT2* first, DPOINT2* second);
+
+/// A stretch and an ellipse: appends at most `maxPoints` points.
+QORMATH_EXPORT int Intersect_LineWithEllipse(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre,
+                                             double a, double b, double rotation, std::vector<DPOINT2>& points,
+                                             int maxPoints);
+
+/// A stretch and an elliptical arc.
+///
+/// @param firstEnd, secondEnd                   the ends of the stretch; 0 for a stretch of no length
+/// @param centre, a, b, rotation, start, sweep  the elliptical arc
+/// @param first, second                         receive the points; either may be null
+/// @return 0, 1 or 2
+QORMATH_EXPORT int Intersect_LineWithEllipseArc(const DPOINT2& firstEnd, const DPOINT2& secondEnd,
+                                                const DPOINT2& centre, double a, double b, double rotation,
+                                                double start, double sweep, DPOINT2* first, DPOINT2* second);
+
+/// A stretch and an elliptical arc: appends at most `maxPoints` points.
+QORMATH_EXPORT int Intersect_LineWithEllipseArc(const DPOINT2& firstEnd, const DPOINT2& secondEnd,
+                                                const DPOINT2& centre, double a, double b, double rotation,
+                                                double start, double sweep, std::vector<DPOINT2>& points,
+                                                int maxPoints);
+
+// ---- Ellipses with ellipses, circles and arcs ----
+//
+// These members have four outputs, and rules of their own for them:
+// - Pointer forms set every output that is given: (InvalidDouble, InvalidDouble) where there is no point. The exceptions
+//   are told with their members.
+// - Vector forms replace the content of the vector, whatever the result. `maxPoints` from 0 to 3 limits the vector, any
+//   other value means four; the result is that of the pointer form.
+//
+// Each ellipse is cut at its four extreme points into quarter arcs, over which y is a function of x. All sixteen pairs are
+// compared by height and slope at the ends of their shared range and bisected where they cross; points that coincide
+// under DoubleTolerance are merged. The order of the points is that of the quarter arcs of the first ellipse, by polar angle
+// from its own x axis. The method is numeric, with these limits: a tangency at a point where quarter arcs end may be missed,
+// since the last bits decide; ellipses given with a < b may be rejected though they meet, since a quick test reads `a` as
+// the greater semi-axis; a search whose verticals miss an arc by rounding ends where it stands.
+
+/// Two ellipses.
+///
+/// @param firstCentre, firstA, firstB, firstRotation      the first ellipse
+/// @param secondCentre, secondA, secondB, secondRotation  the second ellipse
+/// @param first, second, third, fourth                    receive the first four points; each may be null
+/// @return the number of distinct points, which is not limited to 4; -1 for one and the same ellipse or circle
+///         (rotations half a turn apart are recognised, whole turns are not)
+QORMATH_EXPORT int Intersect_EllipseWithEllipse(const DPOINT2& firstCentre, double firstA, double firstB,
+                                                double firstRotation, const DPOINT2& secondCentre, double secondA,
+                                                double secondB, double secondRotation, DPOINT2* first, DPOINT2* second,
+                                                DPOINT2* third, DPOINT2* fourth);
+
+/// Two ellipses: the points in a vector, at most `maxPoints`.
+QORMATH_EXPORT int Intersect_EllipseWithEllipse(const DPOINT2& firstCentre, double firstA, double firstB,
+                                                double firstRotation, const DPOINT2& secondCentre, double secondA,
+                                                double secondB, double secondRotation, std::vector<DPOINT2>& points,
+                                                int maxPoints);
+
+/// An ellipse and an elliptical arc.
+///
+/// The arc is tested exactly, apart from its ends, which count within DoubleTolerance of distance. A negative sweep is not
+/// served: only points at the ends of such an arc are kept.
+///
+/// @param ellipseCentre, ellipseA, ellipseB, ellipseRotation       the ellipse
+/// @param arcCentre, arcA, arcB, arcRotation, start, sweep  the elliptical arc
+/// @param first, second, third, fourth                      receive the points; each may be null
+/// @return the number of points, at most 4; 0 where the ellipse carries the arc
+QORMATH_EXPORT int Intersect_EllipseWithEllipseArc(const DPOINT2& ellipseCentre, double ellipseA, double ellipseB,
+                                                   double ellipseRotation, const DPOINT2& arcCentre, double arcA,
+                                                   double arcB, double arcRotation, double start, double sweep,
+                                                   DPOINT2* first, DPOINT2* second, DPOINT2* third, DPOINT2* fourth);
+
+/// An ellipse and an elliptical arc: the points in a vector, at most `maxPoints`.
+QORMATH_EXPORT int Intersect_EllipseWithEllipseArc(const DPOINT2& ellipseCentre, double ellipseA, double ellipseB,
+                                                   double ellipseRotation, const DPOINT2& arcCentre, double arcA,
+                                                   double arcB, double arcRotation, double start, double sweep,
+                                                   std::vector<DPOINT2>& points, int maxPoints);
+
+/// Two elliptical arcs. Both are read counter-clockwise, as by IsPointInEllipseArc without a direction.
+///
+/// @param firstCentre, firstA, firstB, firstRotation, firstStart, firstSweep        the first arc
+/// @param secondCentre, secondA, secondB, secondRotation, secondStart, secondSweep  the second arc
+/// @param first, second, third, fourth                                              receive the points; each may be null
+/// @return the number of points, at most 4. Arcs of one ellipse give 1 or 2 for shared ends, and -1, without a point, for an
+///         overlap along a length
+QORMATH_EXPORT int Intersect_EllipseArcWithEllipseArc(const DPOINT2& firstCentre, double firstA, double firstB,
+                                                      double firstRotation, double firstStart, double firstSweep,
+                                                      const DPOINT2& secondCentre, double secondA, double secondB,
+                                                      double secondRotation, double secondStart, double secondSweep,
+                                                      DPOINT2* first, DPOINT2* second, DPOINT2* third, DPOINT2* fourth);
+
+/// Two elliptical arcs: the points in a vector, at most `maxPoints`.
+QORMATH_EXPORT int Intersect_EllipseArcWithEllipseArc(const DPOINT2& firstCentre, double firstA, double firstB,
+                                                      double firstRotation, double firstStart, double firstSweep,
+                                                      const DPOINT2& secondCentre, double secondA, double secondB,
+                                                      double secondRotation, double secondStart, double secondSweep,
+                                                      std::vector<DPOINT2>& points, int maxPoints);
+
+/// A circle and an ellipse.
+///
+/// An ellipse whose semi-axes agree is a circle, one whose `b` vanishes is the stretch between its vertices, each under
+/// DoubleTolerance: then the rules of Intersect_CircleWithCircle and Intersect_LineWithCircle hold, and the third and
+/// fourth output stay untouched. All outputs stay untouched if the radius or both semi-axes vanish.
+///
+/// @param circleCentre, radius           the circle
+/// @param ellipseCentre, a, b, rotation  the ellipse
+/// @param first, second, third, fourth   receive the points; each may be null
+/// @return the number of points; -1 for one and the same circle
+QORMATH_EXPORT int Intersect_CircleWithEllipse(const DPOINT2& circleCentre, double radius, const DPOINT2& ellipseCentre,
+                                               double a, double b, double rotation, DPOINT2* first, DPOINT2* second,
+                                               DPOINT2* third, DPOINT2* fourth);
+
+/// A circle and an ellipse: the points in a vector, at most `maxPoints`.
+QORMATH_EXPORT int Intersect_CircleWithEllipse(const DPOINT2& circleCentre, double radius, const DPOINT2& ellipseCentre,
+                                               double a, double b, double rotation, std::vector<DPOINT2>& points,
+                                               int maxPoints);
+
+/// A circle and an elliptical arc. Outputs stay untouched for a sweep below DoubleTolerance, and only then.
+///
+/// @param circleCentre, radius                         the circle
+/// @param ellipseCentre, a, b, rotation, start, sweep  the elliptical arc
+/// @param first, second, third, fourth                 receive the points; each may be null
+/// @return the number of points, at most 4; -1 where the circle carries the arc
+QORMATH_EXPORT int Intersect_CircleWithEllipseArc(const DPOINT2& circleCentre, double radius,
+                                                  const DPOINT2& ellipseCentre, double a, double b, double rotation,
+                                                  double start, double sweep, DPOINT2* first, DPOINT2* second,
+                                                  DPOINT2* third, DPOINT2* fourth);
+
+/// A circle and an elliptical arc: the points in a vector, at most `maxPoints`.
+QORMATH_EXPORT int Intersect_CircleWithEllipseArc(const DPOINT2& circleCentre, double radius,
+                                                  const DPOINT2& ellipseCentre, double a, double b, double rotation,
+                                                  double start, double sweep, std::vector<DPOINT2>& points,
+                                                  int maxPoints);
+
+/// An arc and an ellipse. The arc keeps points by their direction alone. Outputs stay untouched for a sweep below
+/// DoubleTolerance, and only then.
+///
+/// @param arcCentre, radius, start, sweep  the arc
+/// @param ellipseCentre, a, b, rotation    the ellipse
+/// @param first, second, third, fourth     receive the points; each may be null
+/// @return the number of points, at most 4; -1 where the ellipse carries the arc
+QORMATH_EXPORT int Intersect_ArcWithEllipse(const DPOINT2& arcCentre, double radius, double start, double sweep,
+                                            const DPOINT2& ellipseCentre, double a, double b, double rotation,
+                                            DPOINT2* first, DPOINT2* second, DPOINT2* third, DPOINT2* fourth);
+
+/// An arc and an ellipse: the points in a vector, at most `maxPoints`.
+QORMATH_EXPORT int Intersect_ArcWithEllipse(const DPOINT2& arcCentre, double radius, double start, double sweep,
+                                            const DPOINT2& ellipseCentre, double a, double b, double rotation,
+                                            std::vector<DPOINT2>& points, int maxPoints);
+
+/// An arc and an elliptical arc. The arc keeps points by direction and by their distance from its centre. Outputs stay
+/// untouched if either sweep is below DoubleTolerance, and only then.
+///
+/// @param arcCentre, radius, arcStart, arcSweep                      the arc
+/// @param ellipseCentre, a, b, rotation, ellipseStart, ellipseSweep  the elliptical arc
+/// @param first, second, third, fourth                               receive the points; each may be null
+/// @return the number of points, at most 4; -1 where both lie on one circle, whether or not they overlap
+QORMATH_EXPORT int Intersect_ArcWithEllipseArc(const DPOINT2& arcCentre, double radius, double arcStart,
+                                               double arcSweep, const DPOINT2& ellipseCentre, double a, double b,
+                                               double rotation, double ellipseStart, double ellipseSweep,
+                                               DPOINT2* first, DPOINT2* second, DPOINT2* third, DPOINT2* fourth);
+
+/// An arc and an elliptical arc: the points in a vector, at most `maxPoints`.
+QORMATH_EXPORT int Intersect_ArcWithEllipseArc(const DPOINT2& arcCentre, double radius, double arcStart,
+                                               double arcSweep, const DPOINT2& ellipseCentre, double a, double b,
+                                               double rotation, double ellipseStart, double ellipseSweep,
+                                               std::vector<DPOINT2>& points, int maxPoints);
+
+// ---- Polynomial equations ----
+//
+// Real roots. Coefficients are given from the highest power down. The vector forms append and never clear.
+
+/// The roots of a·x² + b·x + c = 0, by the form of the quadratic formula that loses no digits.
+///
+/// The coefficients are scaled by the greatest of them first, so the tolerances are relative to it: a leading coefficient
+/// below 1e-9 of it makes the equation linear (the far root is then not reported), and a parabola short of the axis by less
+/// than that touches it.
+///
+/// @param x1, x2  receive the roots, the one of larger magnitude first and a double root in both; InvalidDouble stands for a
+///                root that does not exist. Either may be null
+/// @return the number of distinct roots: 0, 1 or 2. All coefficients 0 give 0; a NaN coefficient gives 2 and NaN roots
+QORMATH_EXPORT int SolveQuadraticEquation(double a, double b, double c, double* x1, double* x2);
+
+/// The same, appending the roots that are not NaN; a double root is appended twice.
+/// @return whether there is a root
+QORMATH_EXPORT bool SolveQuadraticEquation(double a, double b, double c, std::vector<double>& roots);
+
+/// The roots of a·x³ + b·x² + c·x + d = 0, located between the stationary points and polished by a midpoint Newton
+/// iteration until the value of the monic polynomial is below DoubleTolerance, or for 51 steps.
+///
+/// The tolerance is on the value, so a flat root comes back coarse: x³ = 0 gives about 7.5e-4. Three simple roots come in
+/// ascending order; a double root is given once and first. A NaN that arises on the way goes out as a root and is counted.
+/// A leading coefficient below DoubleTolerance, as given, makes the equation quadratic.
+///
+/// @param x1, x2, x3  receive the roots found, the others stay untouched; none may be null. For a quadratic equation `x1` and
+///                    `x2` follow the rules of SolveQuadraticEquation, and `x3` stays untouched
+/// @return the number of roots: 1, 2 or 3; that of SolveQuadraticEquation for a quadratic equation
+QORMATH_EXPORT int SolveCubicEquation(double a, double b, double c, double d, double* x1, double* x2, double* x3);
+
+/// The same, appending the roots.
+/// @return true for a cubic equation; the answer of SolveQuadraticEquation for a quadratic one
+QORMATH_EXPORT bool SolveCubicEquation(double a, double b, double c, double d, std::vector<double>& roots);
 
 } // namespace math

@@ -1,0 +1,262 @@
+#include "math/Intersect.h"
+
+#include "math/Primitives.h"
+#include "primitives/Tolerance.h"
+
+#include <array>
+#include <cmath>
+
+namespace math
+{
+
+namespace
+{
+
+/// The greatest absolute value, NaN if there is a NaN among the values.
+double GreatestMagnitude(double a, double b, double c)
+{
+    double greatest = std::abs(a);
+    for (const double value : {std::abs(b), std::abs(c)})
+    {
+        // Written so that a NaN comes in and stays.
+        if (!(value <= greatest) && !std::isnan(greatest))
+        {
+            greatest = value;
+        }
+    }
+    return greatest;
+}
+
+struct QuadraticRoots
+{
+    int count = 0;
+    double first = InvalidDouble;
+    double second = InvalidDouble;
+};
+
+QuadraticRoots RootsOfLinear(double b, double c)
+{
+    if (detail::IsZero(b))
+    {
+        return {};
+    }
+    return {1, (c / b) * -1.0, InvalidDouble};
+}
+
+QuadraticRoots RootsOfQuadratic(double a, double b, double c)
+{
+    const double scale = GreatestMagnitude(a, b, c);
+    if (scale == 0.0)
+    {
+        return {};
+    }
+    a /= scale;
+    b /= scale;
+    c /= scale;
+    if (detail::IsZero(a))
+    {
+        return RootsOfLinear(b, c);
+    }
+    const double sign = a > 0.0 ? 1.0 : -1.0;
+    c *= sign;
+    b *= sign;
+    a *= sign;
+
+    // The value at the vertex decides; a vertex short of the axis by less than the tolerance touches it.
+    double vertexValue = c - b * b / (4.0 * a);
+    if (vertexValue > DoubleTolerance)
+    {
+        return {};
+    }
+    if (vertexValue > 0.0)
+    {
+        vertexValue = 0.0;
+    }
+    const double middle = (b * -1.0) / (2.0 * a);
+    const double halfDistance = std::sqrt((vertexValue * -1.0) / a);
+    if (detail::IsZero(2.0 * halfDistance))
+    {
+        return {1, middle, middle};
+    }
+    // The root of larger magnitude loses no digits; the other one follows from the product of the roots.
+    const double larger = std::copysign(halfDistance, middle) + middle;
+    return {2, larger, (c / a) / larger};
+}
+
+/// A cubic with the leading coefficient 1.
+class MonicCubic
+{
+public:
+    MonicCubic(double b, double c, double d) : m_b(b), m_c(c), m_d(d), m_twiceB(2.0 * b)
+    {
+    }
+
+    double Value(double x) const
+    {
+        return std::pow(x, 3.0) + m_b * (x * x) + m_c * x + m_d;
+    }
+
+    double Derivative(double x) const
+    {
+        return 3.0 * (x * x) + m_twiceB * x + m_c;
+    }
+
+    double DiscriminantOfDerivative() const
+    {
+        return m_twiceB * m_twiceB - 12.0 * m_c;
+    }
+
+    double B() const
+    {
+        return m_b;
+    }
+
+    double TwiceB() const
+    {
+        return m_twiceB;
+    }
+
+    /// Midpoint Newton iteration from `x` until the value is zero, at most 51 steps.
+    double Polish(double x) const
+    {
+        constexpr int mostSteps = 51;
+        for (int step = 0;; ++step)
+        {
+            const double value = Value(x);
+            if (detail::IsZero(value) || step >= mostSteps)
+            {
+                return x;
+            }
+            const double halfWay = x - value / (2.0 * Derivative(x));
+            x = x - value / Derivative(halfWay);
+        }
+    }
+
+private:
+    double m_b;
+    double m_c;
+    double m_d;
+    double m_twiceB;
+};
+
+struct CubicRoots
+{
+    int count;
+    std::array<double, 3> roots;
+};
+
+/// A cubic without usable stationary points has one root, right or left of a start near its inflection.
+CubicRoots RootOfMonotone(const MonicCubic& cubic)
+{
+    const double start = cubic.B() * -0.25;
+    const double value = cubic.Value(start);
+    if (value > DoubleTolerance)
+    {
+        return {1, {cubic.Polish(start - 1.0)}};
+    }
+    if (value < DoubleTolerance)
+    {
+        return {1, {cubic.Polish(1.0 - cubic.B() * 0.25)}};
+    }
+    return {1, {start}};
+}
+
+/// The roots on either side of the local maximum and the local minimum. A stationary point on the axis is a double root,
+/// given once and first.
+CubicRoots RootsAroundStationaryPoints(const MonicCubic& cubic, double discriminant)
+{
+    const double root = std::sqrt(discriminant);
+    const double p = (root - cubic.TwiceB()) / 6.0;
+    const double q = (-cubic.TwiceB() - root) / 6.0;
+    const double maximum = p < q ? p : q;
+    const double minimum = p < q ? q : p;
+    const double valueAtMaximum = cubic.Value(maximum);
+    const double valueAtMinimum = cubic.Value(minimum);
+    const double rightOfBoth = std::abs(maximum) + minimum + 1.0;
+    const double leftOfBoth = (maximum - std::abs(minimum)) - 1.0;
+
+    if (detail::IsZero(valueAtMaximum))
+    {
+        return {2, {maximum, cubic.Polish(rightOfBoth)}};
+    }
+    if (detail::IsZero(valueAtMinimum))
+    {
+        return {2, {minimum, cubic.Polish(leftOfBoth)}};
+    }
+    if (valueAtMaximum > 0.0 && valueAtMinimum < 0.0)
+    {
+        const double between = (minimum + maximum) * 0.5;
+        return {3, {cubic.Polish(leftOfBoth), cubic.Polish(between), cubic.Polish(rightOfBoth)}};
+    }
+    return {1, {cubic.Polish(valueAtMaximum < DoubleTolerance ? rightOfBoth : leftOfBoth)}};
+}
+
+CubicRoots RootsOfCubic(double a, double b, double c, double d)
+{
+    const MonicCubic cubic(b / a, c / a, d / a);
+    const double discriminant = cubic.DiscriminantOfDerivative();
+    if (discriminant < DoubleTolerance)
+    {
+        return RootOfMonotone(cubic);
+    }
+    return RootsAroundStationaryPoints(cubic, discriminant);
+}
+
+void WriteRoot(double root, double* output)
+{
+    if (output != nullptr)
+    {
+        *output = root;
+    }
+}
+
+} // namespace
+
+int SolveQuadraticEquation(double a, double b, double c, double* x1, double* x2)
+{
+    const QuadraticRoots roots = RootsOfQuadratic(a, b, c);
+    WriteRoot(roots.first, x1);
+    WriteRoot(roots.second, x2);
+    return roots.count;
+}
+
+bool SolveQuadraticEquation(double a, double b, double c, std::vector<double>& roots)
+{
+    const QuadraticRoots found = RootsOfQuadratic(a, b, c);
+    for (const double root : {found.first, found.second})
+    {
+        if (!std::isnan(root))
+        {
+            roots.push_back(root);
+        }
+    }
+    return found.count != 0;
+}
+
+int SolveCubicEquation(double a, double b, double c, double d, double* x1, double* x2, double* x3)
+{
+    if (detail::IsZero(a))
+    {
+        return SolveQuadraticEquation(b, c, d, x1, x2);
+    }
+    const CubicRoots found = RootsOfCubic(a, b, c, d);
+    const std::array<double*, 3> outputs = {x1, x2, x3};
+    for (std::size_t i = 0; i < static_cast<std::size_t>(found.count); ++i)
+    {
+        *outputs[i] = found.roots[i];
+    }
+    return found.count;
+}
+
+bool SolveCubicEquation(double a, double b, double c, double d, std::vector<double>& roots)
+{
+    if (detail::IsZero(a))
+    {
+        return SolveQuadraticEquation(b, c, d, roots);
+    }
+    const CubicRoots found = RootsOfCubic(a, b, c, d);
+    roots.insert(roots.end(), found.roots.begin(), found.roots.begin() + found.count);
+    return true;
+}
+
+} // namespace math
