@@ -105,16 +105,18 @@ public:
     /// Two circles.
     ///
     /// Centres no further apart than 1e-9 make them concentric, and identical when the radii differ by no more either.
-    /// Of two points the first lies on the left of the way from the first centre to the second, the second on its right.
-    /// The parameters lie in [0, 2π), with one exception: where the circles touch from outside, that on the second
-    /// circle is the direction of the first centre told as direction + π, in [0, 2π]
+    /// Circles touch when the distance of the centres is the sum of the radii, or their difference, within one rounding
+    /// unit of the sum. Of two points the first lies on the left of the way from the first centre to the second, the
+    /// second on its right. Parameters are directions counted counter-clockwise from the x axis of each circle,
+    /// whatever its sense, in [0, 2π]: a whole turn is added or taken once, and rounding may leave 2π itself.
     void Perform(const gp_Circ2d& first, const gp_Circ2d& second);
 
     /// A line and a circle.
     ///
     /// A line whose distance from the centre is the radius, within one rounding unit of it, touches in one point, the
-    /// foot of the centre. Of two points the first lies ahead along the direction of the line. A line of NaN counts two
-    /// points of NaN. A circle of radius 0 has the parameter 0 in its only point.
+    /// foot of the centre. Of two points the first lies ahead along the direction of the line. The parameter on the
+    /// circle follows its sense; the centre of a circle of radius 0 has the parameter 0. A line of NaN counts two
+    /// points of NaN.
     void Perform(const gp_Lin2d& line, const gp_Circ2d& circle);
 
     /// True once a Perform has finished.
@@ -167,8 +169,8 @@ public:
     /// The circle through three points, by its perpendicular bisectors.
     ///
     /// The radius is the mean of the three distances from the centre. The circle has the world x axis; its sense is
-    /// turned when the points, by their angles from that axis, do not ascend. Three points in one place make a circle of
-    /// radius 0 about them.
+    /// turned when the points, by their angles from that axis, do not ascend. Three points in one place make a circle
+    /// of radius 0 about them.
     ///
     /// @throws Standard_ConstructionError when points of different places are too near each other for a bisector's
     ///         direction ("gp_Dir2d() - input vector has zero norm")
@@ -196,7 +198,9 @@ public:
     /// The circle concentric with `circle`, in its axes, through `point`.
     gce_MakeCirc2d(const gp_Circ2d& circle, const gp_Pnt2d& point);
 
-    /// The circle concentric with `circle`, in its axes, whose radius is the absolute value of the old one + `distance`.
+    /// The circle concentric with `circle`, in its axes, `distance` further out.
+    ///
+    /// The radius is the absolute value of the old radius + `distance`.
     gce_MakeCirc2d(const gp_Circ2d& circle, double distance);
 
     /// One of StatusCode.

@@ -262,9 +262,9 @@ QORMATH_EXPORT double MinDistanceToLine(const DPOINT2& point, const DPOINT2& a, 
 
 /// The distance from `point` to a circular arc.
 ///
-/// The arc is told redundantly: both ends are checked against `radius`, while `sweep` is not compared with `arcEnd`. It
-/// alone decides whether the radial foot of the point lies on the arc (exactly, the ends themselves excluded or not
-/// hardly matters, since they are then measured); `arcStart` and `arcEnd` are measured otherwise.
+/// The arc is told redundantly. Both ends have to lie at `radius` from `centre`, but `sweep` is not compared with
+/// `arcEnd`: `sweep` alone decides, exactly, whether the radial foot of the point lies on the arc; where it does not,
+/// the nearer of the two ends counts.
 ///
 /// @param sweep  radians from `arcStart`, positive counter-clockwise
 /// @return the distance; `radius` for the centre (within DoubleTolerance in each coordinate); InvalidDouble when an end
@@ -294,7 +294,9 @@ QORMATH_EXPORT double D2DotMultiply(const gp_Vec2d& a, const gp_Vec2d& b);
 /// A point of the world seen from the frame at `origin` whose u axis points along `radian`: the result holds (u, v).
 QORMATH_EXPORT DPOINT2 CoorTransXYToUV(const DPOINT2& point, const DPOINT2& origin, double radian);
 
-/// A point (u, v) of the frame at `origin` whose u axis points along `radian`, in the world. Inverse of CoorTransXYToUV.
+/// A point (u, v) of the frame at `origin` whose u axis points along `radian`, in the world.
+///
+/// The inverse of CoorTransXYToUV.
 QORMATH_EXPORT DPOINT2 CoorTransUVToXY(const DPOINT2& point, const DPOINT2& origin, double radian);
 
 // ---- Point-on-curve predicates ----
@@ -394,8 +396,8 @@ QORMATH_EXPORT DPOINT2 GetPointInCircle(const DPOINT2& centre, double radius, do
 
 /// The point of an ellipse on the ray from its centre at the polar angle `radian` from its own x axis.
 ///
-/// @param radian  in [0, 2π); it is not folded. Just above π/2 and just below 3π/2, by less than 1e-9, the result is the
-///                opposite vertex: the half turn of the left half plane is added without tolerance
+/// @param radian  in [0, 2π); it is not folded. Just above π/2 and just below 3π/2, by less than 1e-9, the result is
+///                the opposite vertex: the half turn of the left half plane is added without tolerance
 QORMATH_EXPORT DPOINT2 GetPointInEllipse(const DPOINT2& centre, double a, double b, double rotation, double radian);
 
 /// The greatest distance from the chord of an elliptical arc to the arc.
@@ -416,9 +418,16 @@ QORMATH_EXPORT double GetTangentAngleOfEllipse(const DPOINT2& centre, double a, 
 
 /// The two points of an ellipse in which its tangent has the direction `radian`.
 ///
-/// Which of the two comes first depends on the direction: no side can be read from the order. In the ellipse's own
-/// frame, with d the direction there folded into [0, π): the lower and then the upper vertex for d equal to 0 or π, the
-/// left and then the right one for π/2, upper left and then lower right below π/2, upper right and then lower left above.
+/// Which of the two comes first depends on the direction: no side can be read from the order. With d the direction in
+/// the ellipse's own frame, folded into [0, π), the order there is:
+///
+/// | d                                | first       | second      |
+/// |----------------------------------|-------------|-------------|
+/// | 0 or π (within DoubleTolerance)  | lower one   | upper one   |
+/// | π/2 (within DoubleTolerance)     | left one    | right one   |
+/// | between 0 and π/2                | upper left  | lower right |
+/// | between π/2 and π                | upper right | lower left  |
+///
 /// Folds an angle: an infinite one never returns.
 ///
 /// @param first   receives the first point; may be null
@@ -431,7 +440,8 @@ QORMATH_EXPORT int GetTangentPointOfEllipse(const DPOINT2& centre, double a, dou
 ///
 /// The new axes come from Rytz's construction: the images of the two semi-axes are conjugate semi-diameters of the
 /// image. A rotation within 1e-6 of 0, π/2 or π counts as that direction: one axis is scaled and the rotation kept.
-/// Otherwise the new `a` is not below the new `b` and the new rotation lies in [0, π).
+/// Otherwise the new `a` is not below the new `b` and the new rotation lies in [0, π). The rotation loses digits where
+/// an axis of the image comes near one of the scaled semi-axes: near the world axes, and for a factor near 1.
 ///
 /// @param a         semi-axis along the own x axis, changed in place
 /// @param b         semi-axis across it, changed in place
@@ -450,8 +460,8 @@ QORMATH_EXPORT bool ScaleEllipse(double* a, double* b, double* rotation, double 
 
 /// From the bulge form of an arc to its centre form.
 ///
-/// The point of the arc at the ratio t lies in the direction startRadian + sweep * t from the centre. Each output may be
-/// null.
+/// The point of the arc at the ratio t lies in the direction startRadian + sweep * t from the centre. Each output may
+/// be null.
 ///
 /// @param first        first end
 /// @param second       second end
@@ -460,8 +470,8 @@ QORMATH_EXPORT bool ScaleEllipse(double* a, double* b, double* rotation, double 
 /// @param radius       receives the radius
 /// @param startRadian  receives the direction from the centre to `first`, in [0, 2π)
 /// @param sweep        receives the signed sweep, strictly between -2π and 2π, with the sign of `bulge`
-/// @return true; false with all outputs untouched when the ends are nearer than DoubleTolerance, when the bulge is equal
-///         to 0, or when all outputs are null
+/// @return true; false with all outputs untouched when the ends are nearer than DoubleTolerance, when the bulge is
+///         equal to 0, or when all outputs are null
 QORMATH_EXPORT bool SolveArc(DPOINT2 first, DPOINT2 second, double bulge, DPOINT2* centre, double* radius,
                              double* startRadian, double* sweep);
 

@@ -37,8 +37,8 @@ struct Bisectors
     gp_Lin2d second;
 };
 
-// Of p1 and p2, and of p1 and p3. A bisector that is missing, since its two points are one, is replaced by a line through
-// that point.
+// Of p1 and p2, and of p1 and p3. A bisector that is missing, since its two points are one, is replaced by a line
+// through p1.
 Bisectors BisectorsOf(const gp_Pnt2d& p1, const gp_Pnt2d& p2, const gp_Pnt2d& p3)
 {
     const double distance12 = p1.Distance(p2);
