@@ -1,0 +1,14 @@
+#pragma once
+
+#include "Report.h"
+
+#include <string>
+
+namespace tour
+{
+
+/// Draws the tour as an SVG picture: on the left the outlines with the piece and the crossings, on the right the rebuilt
+/// outline with the images, and lines that join positions and images.
+std::string DrawPicture(const Tour& tour);
+
+} // namespace tour

@@ -1,0 +1,230 @@
+#include "Report.h"
+
+#include "Table.h"
+#include "Text.h"
+
+#include <string>
+
+namespace tour
+{
+
+namespace
+{
+
+constexpr int LengthDecimals = 4;
+constexpr int PositionDecimals = 4;
+
+std::string Coordinate(double value)
+{
+    return Fixed(value, LengthDecimals);
+}
+
+std::string Position(double value)
+{
+    return Fixed(value, PositionDecimals);
+}
+
+std::string ShortPosition(double value)
+{
+    return Short(value, PositionDecimals);
+}
+
+/// "(0, 3.25) (1, 4)": the joints of a map, in the middle of a long list three dots.
+std::string Joints(const math::CPolyPosMap& map)
+{
+    constexpr std::size_t shown = 12;
+    const auto& pairs = map.PosPairs();
+    if (pairs.empty())
+    {
+        return "no joints";
+    }
+    std::string text;
+    for (std::size_t i = 0; i < pairs.size(); ++i)
+    {
+        if (pairs.size() > shown && i == shown / 2)
+        {
+            text += "... ";
+            i = pairs.size() - shown / 2;
+        }
+        text += "(" + ShortPosition(pairs[i].first) + ", " + ShortPosition(pairs[i].second) + ") ";
+    }
+    text.pop_back();
+    return text;
+}
+
+std::string List(const std::vector<int>& numbers)
+{
+    std::string text;
+    for (const int number : numbers)
+    {
+        text += (text.empty() ? "" : ", ") + std::to_string(number);
+    }
+    return text;
+}
+
+void PrintOutlines(const Drawing& drawing, std::ostream& out)
+{
+    Table table(
+        {"outline", "segments", "lines", "arcs", "shape", "length", "signed area", "x", "y", "width", "height"});
+    for (std::size_t i = 0; i < drawing.outlines.size(); ++i)
+    {
+        const OutlineFacts facts = FactsOf(drawing.outlines[i]);
+        table.Add({std::to_string(i + 1), std::to_string(facts.segments), std::to_string(facts.segments - facts.arcs),
+                   std::to_string(facts.arcs), facts.closed ? "closed" : "open", Coordinate(facts.length),
+                   Coordinate(facts.signedArea), Coordinate(facts.box.x), Coordinate(facts.box.y),
+                   Coordinate(facts.box.width), Coordinate(facts.box.height)});
+    }
+    out << "Outlines of " << Quoted(drawing.name) << "\n";
+    table.Print(out);
+    out << "  The area counts as negative counter-clockwise, as positive clockwise, and as 0 if the outline is open.\n";
+    std::string others;
+    std::size_t kinds = 0;
+    for (const auto& [kind, count] : drawing.others)
+    {
+        constexpr std::size_t shown = 8;
+        if (kinds++ < shown)
+        {
+            others += (others.empty() ? "" : ", ") + std::to_string(count) + " " + Quoted(kind);
+        }
+    }
+    if (!others.empty())
+    {
+        out << "  Left aside: " << others << (kinds > 8 ? " and more" : "") << ".\n";
+    }
+    out << "\n";
+}
+
+void PrintRebuild(const Tour& tour, std::ostream& out)
+{
+    const Rebuild& rebuild = tour.rebuild;
+    const math::CPolyline& outline = tour.drawing.outlines.front();
+    out << "Older map: outline 1 (" << Counted(outline.nodes.size(), "segment") << ") was rebuilt ("
+        << Counted(rebuild.outline.nodes.size(), "segment") << ").\n";
+    out << "  Zero " << (rebuild.zero == 0 ? "stayed where it was" : "was moved to " + ShortPosition(rebuild.zero))
+        << ", which gives " << Counted(rebuild.moved.nodes.size(), "segment") << ";";
+    out << (rebuild.vanished.empty() ? " none vanished"
+                                     : " of these " + List(rebuild.vanished) + " vanished into corners")
+        << ".\n  ";
+    if (rebuild.knowsAll)
+    {
+        out << "It knows the whole outline.\n";
+    }
+    else
+    {
+        const math::PosRangeD known = rebuild.map.GetRange(1, true);
+        out << "It knows " << ShortPosition(known.start) << " up to " << ShortPosition(known.end)
+            << (known.IsContainZero() ? ", over the seam" : "") << "; positions outside have no image.\n";
+    }
+    out << "  Joints: " << Joints(rebuild.map) << "\n\n";
+}
+
+std::string RemarkOn(const Image& image, const CarriedPosition& carried, int segmentCount)
+{
+    std::string remark;
+    if (image.raw != image.position)
+    {
+        remark += "raw " + ShortPosition(image.raw) + "; ";
+    }
+    if (image.position >= segmentCount)
+    {
+        remark += "the seam, end of the last segment; ";
+    }
+    if (image.throughSeam)
+    {
+        remark += "image of the piece's other end; ";
+    }
+    else if (carried.images.size() > 1)
+    {
+        remark += "one of " + std::to_string(carried.images.size()) + " images; ";
+    }
+    return remark.substr(0, remark.size() < 2 ? 0 : remark.size() - 2);
+}
+
+void PrintPositions(const Tour& tour, std::ostream& out)
+{
+    Table table({"no", "on piece", "on outline", "image", "segment", "ratio", "x", "y", "remark"});
+    const int rebuiltCount = SegmentCount(tour.rebuild.outline);
+    std::size_t number = 0;
+    for (const CarriedPosition& carried : tour.carrying.positions)
+    {
+        const std::vector<std::string> head = {std::to_string(++number), Position(carried.onPiece),
+                                               Position(carried.onOutline)};
+        for (const Image& image : carried.images)
+        {
+            table.Add({head[0], head[1], head[2], Position(image.position), std::to_string(image.place.segment),
+                       Fixed(image.place.ratio, PositionDecimals), Coordinate(image.place.point.x),
+                       Coordinate(image.place.point.y), RemarkOn(image, carried, rebuiltCount)});
+        }
+        for (const double position : carried.missed)
+        {
+            table.Add({head[0], head[1], head[2], "-", "-", "-", "-", "-",
+                       "not in the composed map; the maps one by one give " + ShortPosition(position)});
+        }
+        if (carried.images.empty() && carried.missed.empty())
+        {
+            table.Add({head[0], head[1], head[2], "-", "-", "-", "-", "-", "no image"});
+        }
+    }
+    table.Print(out);
+}
+
+void PrintCarrying(const Tour& tour, std::ostream& out)
+{
+    const Carrying& carrying = tour.carrying;
+    out << "Cut: positions " << ShortPosition(carrying.cut.start) << " to " << ShortPosition(carrying.cut.end)
+        << " of outline 1" << (carrying.cut.IsContainZero() ? ", over the seam" : "") << "; the piece has "
+        << Counted(static_cast<std::size_t>(carrying.pieceToOutline.SrcSegmentCount()), "segment") << " and the length "
+        << Coordinate(LengthOf(tour.drawing.outlines.front(), carrying.cut)) << ".\n";
+    out << "  Joints of the map from the piece to the outline: " << Joints(carrying.pieceToOutline) << "\n\n";
+    PrintRebuild(tour, out);
+    out << "Positions of the piece, carried to the rebuilt outline by the two maps composed\n";
+    out << "  Joints: " << Joints(carrying.pieceToRebuilt) << "\n";
+    PrintPositions(tour, out);
+    out << "\n";
+}
+
+std::string RemarkOn(const Crossing& crossing)
+{
+    switch (crossing.kind)
+    {
+    case CrossingKind::Node:
+        return "a node";
+    case CrossingKind::Stretch:
+        return "the segment lies on the beeline, up to " + Coordinate(crossing.alongEnd);
+    case CrossingKind::Point:
+        break;
+    }
+    return "";
+}
+
+void PrintCrossings(const Tour& tour, std::ostream& out)
+{
+    out << "Beeline through (" << Short(tour.beeline.point.x, LengthDecimals) << ", "
+        << Short(tour.beeline.point.y, LengthDecimals) << ") at " << Short(tour.beeline.degrees, LengthDecimals)
+        << " degrees: " << Counted(tour.crossings.size(), "crossing") << "\n";
+    if (tour.crossings.empty())
+    {
+        return;
+    }
+    Table table({"no", "along", "x", "y", "outline", "segment", "ratio", "remark"});
+    for (std::size_t i = 0; i < tour.crossings.size(); ++i)
+    {
+        const Crossing& crossing = tour.crossings[i];
+        const bool isStretch = crossing.kind == CrossingKind::Stretch;
+        table.Add({CrossingName(i), Coordinate(crossing.along), Coordinate(crossing.point.x),
+                   Coordinate(crossing.point.y), std::to_string(crossing.outline + 1), std::to_string(crossing.segment),
+                   isStretch ? "-" : Fixed(crossing.ratio, PositionDecimals), RemarkOn(crossing)});
+    }
+    table.Print(out);
+}
+
+} // namespace
+
+void PrintReport(const Tour& tour, std::ostream& out)
+{
+    PrintOutlines(tour.drawing, out);
+    PrintCarrying(tour, out);
+    PrintCrossings(tour, out);
+}
+
+} // namespace tour
