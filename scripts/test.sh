@@ -13,7 +13,7 @@ cd "$(dirname "$0")/.."
 preset=${1:-release}
 shift $(($# > 0 ? 1 : 0))
 
-packages=(g++ cmake ninja-build pkgconf libocct-foundation-dev libgtest-dev)
+packages=(g++ cmake ninja-build pkgconf libocct-foundation-dev libgtest-dev libdxflib-dev)
 case $preset in
     release | dev | asan) ;;
     clang) packages+=(clang) ;;
@@ -23,9 +23,9 @@ ensure_packages "${packages[@]}"
 
 jobs=$(nproc)
 say "preset $preset: configuring in build/$preset"
-cmake --preset "$preset" >&2
+cmake --preset "$preset"
 say "preset $preset: building with $jobs jobs"
-cmake --build --preset "$preset" --parallel "$jobs" >&2
+cmake --build --preset "$preset" --parallel "$jobs"
 say "preset $preset: running the tests"
 ctest --preset "$preset" --parallel "$jobs" "$@"
 say "preset $preset: all tests passed, $SECONDS seconds in all"
