@@ -125,9 +125,11 @@ public:
     ///
     /// On a straight segment it is the foot of the perpendicular, on an arc the point where the ray from the centre
     /// through `p` meets it, the arc's ends being reached within DoubleTolerance of angle. Where there is none, it is
-    /// the nearer end. Equal distances, and a straight segment of no length, give `end`. From the centre of an arc
-    /// every point is equally far, which gives `end` too; `p` counts as the centre within four rounding units of the
-    /// radius.
+    /// the nearer end, and `end` when both are equally far. A straight segment of no length gives `end`.
+    ///
+    /// From the centre of an arc there is no such ray, so the nearer end is taken there too: `end`, but for the
+    /// rounding of the distances. `p` counts as the centre within four rounding units of the radius from where it is
+    /// computed.
     ///
     /// @param p  the point to start from
     /// @param t  receives the parameter of the result, from 0 to 1
