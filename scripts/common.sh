@@ -1,9 +1,9 @@
 # What the scripts of this folder share. Meant to be sourced by a bash script with `set -euo pipefail`.
 
-# Prints a line about what the script does. Goes to standard error: standard output belongs to the programs that run.
+# Prints a line about what the script does. Standard error is left to what goes wrong.
 say()
 {
-    printf '== %s\n' "$*" >&2
+    printf '== %s\n' "$*"
 }
 
 # Prints why the script gives up, and ends it.
@@ -46,8 +46,8 @@ ensure_packages()
     command -v apt-get >/dev/null || die "these packages are missing, and there is no apt-get: ${missing[*]}"
     say "installing ${missing[*]}"
     if [ -z "${PACKAGE_LISTS_ARE_FRESH:-}" ]; then
-        as_root apt-get update -qq >&2
+        as_root apt-get update -qq
         PACKAGE_LISTS_ARE_FRESH=yes
     fi
-    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}" >&2
+    as_root env DEBIAN_FRONTEND=noninteractive apt-get install -y -qq --no-install-recommends "${missing[@]}"
 }

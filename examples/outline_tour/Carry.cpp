@@ -28,9 +28,14 @@ constexpr double SamePosition = 1e-6;
 /// Images that differ by less come from one place: a composition rounds more often than a single map.
 constexpr double SameImage = 1e-6;
 
-bool Holds(const std::vector<double>& values, double value)
+/// Tells whether one of the positions is the given one. On a closed outline the first and the last are one place.
+bool Holds(const std::vector<double>& positions, double position, const CPolyline& outline)
 {
-    return std::any_of(values.begin(), values.end(), [&](double other) { return std::abs(other - value) < SameImage; });
+    return std::any_of(positions.begin(), positions.end(), [&](double other) {
+        const double distance = std::abs(other - position);
+        const double overTheSeam = std::abs(SegmentCount(outline) - distance);
+        return distance < SameImage || (outline.IsClosed() && overTheSeam < SameImage);
+    });
 }
 
 /// The images of a position. An empty map is one of which nothing survived here, not one that changes nothing.
@@ -49,7 +54,8 @@ std::vector<double> NormalizedImages(const CPolyPosMap& map, double position)
     return images;
 }
 
-/// Finds the images of a position of the piece, each once, and holds them against those of the maps one by one.
+/// Finds the images of a position of the piece, each once, and holds them against those of the maps one by one. Those
+/// that only the seam of the piece brings come last.
 void FindImages(const Carrying& carrying, const Rebuild& rebuild, CarriedPosition& carried)
 {
     const std::vector<double> stepByStep = NormalizedImages(rebuild.map, carried.onOutline);
@@ -57,14 +63,17 @@ void FindImages(const Carrying& carrying, const Rebuild& rebuild, CarriedPositio
     for (const double raw : RawImages(carrying.pieceToRebuilt, carried.onPiece))
     {
         const double position = PosRangeD::NormalizePos(raw, carrying.pieceToRebuilt.DstSegmentCount());
-        if (!Holds(composed, position))
+        if (!Holds(composed, position, rebuild.outline))
         {
             composed.push_back(position);
-            carried.images.push_back({raw, position, PlaceAt(rebuild.outline, position), !Holds(stepByStep, position)});
+            carried.images.push_back(
+                {raw, position, PlaceAt(rebuild.outline, position), !Holds(stepByStep, position, rebuild.outline)});
         }
     }
+    std::stable_partition(carried.images.begin(), carried.images.end(),
+                          [](const Image& image) { return !image.throughSeam; });
     std::copy_if(stepByStep.begin(), stepByStep.end(), std::back_inserter(carried.missed),
-                 [&](double position) { return !Holds(composed, position); });
+                 [&](double position) { return !Holds(composed, position, rebuild.outline); });
 }
 
 std::string CutText(const PosRangeD& cut)

@@ -19,7 +19,7 @@ struct Image
     double raw = 0;           ///< as the map gives it; may run past the segment count
     double position = 0;      ///< brought to 0 up to the segment count
     Place place;              ///< on the rebuilt outline
-    bool throughSeam = false; ///< an image of the other end of the piece, see Carrying
+    bool throughSeam = false; ///< comes from the seam of the piece, see Carrying
 };
 
 /// A position of the piece, carried.
@@ -34,10 +34,12 @@ struct CarriedPosition
 
 /// A piece cut out of an outline, and its positions on the rebuilt outline.
 ///
-/// The algebra of positions counts every polyline as closed: position 0 of the piece and its last one are two faces of
-/// one seam. Where the composed map goes on over that seam, each end of the piece has the images of both. And when the
-/// piece and the older map both pass over the seam of the outline, a composition can miss what lies before the place
-/// where the older map begins.
+/// The algebra of positions counts every polyline as closed: the last position of the piece and its first are two faces
+/// of one seam, and there the map to the outline jumps from the one end of the stretch to the other. So an end of the
+/// piece may have images that belong to the jump: those of the other end, or of what the older map knows in between.
+///
+/// And where the piece and the older map both pass over the seam of the outline, a composition can miss what lies before
+/// the place where the older map begins.
 struct Carrying
 {
     math::PosRangeD cut;

@@ -150,16 +150,6 @@ private:
     std::set<int> m_nodesSeen;
 };
 
-math::DRECT BoxOf(const std::vector<CPolyline>& outlines)
-{
-    math::DRECT box = outlines.front().GetRECT();
-    for (const CPolyline& outline : outlines)
-    {
-        box.Union(box, outline.GetRECT());
-    }
-    return box;
-}
-
 } // namespace
 
 DPOINT2 DirectionOf(const Beeline& beeline)
@@ -168,10 +158,10 @@ DPOINT2 DirectionOf(const Beeline& beeline)
     return {std::cos(radian), std::sin(radian)};
 }
 
-Beeline DefaultBeeline(const std::vector<CPolyline>& outlines)
+Beeline DefaultBeeline(const CPolyline& outline)
 {
     constexpr double degrees = -60;
-    const math::DRECT box = BoxOf(outlines);
+    const math::DRECT box = outline.GetRECT();
     return {{box.x + box.width / 2, box.y + box.height / 2}, degrees};
 }
 

@@ -37,8 +37,8 @@ struct Crossing
 /// The unit vector of the direction.
 math::DPOINT2 DirectionOf(const Beeline& beeline);
 
-/// A beeline through the middle of the outlines' box, steeply downhill.
-Beeline DefaultBeeline(const std::vector<math::CPolyline>& outlines);
+/// A beeline through the middle of the outline's box, steeply downhill.
+Beeline DefaultBeeline(const math::CPolyline& outline);
 
 /// Every place where the beeline meets an outline, in the order along the beeline.
 ///

@@ -7,8 +7,8 @@ namespace tour
 
 /// What the tour serves. The library compares lengths with an absolute tolerance of 1e-9; far beyond these sizes the
 /// spacing of doubles comes near it and crossings would get lost.
-inline constexpr double GreatestCoordinate = 1e5;
-inline constexpr double GreatestRadius = 1e5;
+inline constexpr double GreatestCoordinate = 1e6;
+inline constexpr double GreatestRadius = 1e6;
 
 /// An arc this close to a full circle: all but a ten-thousandth of its way round is drawn.
 inline constexpr double GreatestBulge = 1e4;

@@ -399,20 +399,21 @@ private:
     {
         const Rebuild& rebuild = m_tour.rebuild;
         const PosRangeD& cut = m_tour.carrying.cut;
-        std::vector<std::string> lines = {
-            "The piece is the stretch from position " + Short(cut.start, 3) + " to " + Short(cut.end, 3) + ".",
-            "Two maps are composed: from the piece to the outline, and an older one",
-            "from the outline to the rebuilt one. " + Counted(m_tour.carrying.positions.size(), "position") +
-                " of the piece go through them."};
-        lines.push_back(rebuild.zero == 0
-                            ? "Zero stayed where it was."
-                            : "Zero was moved to " + Short(rebuild.zero, 3) + "; " +
-                                  Counted(rebuild.vanished.size(), "segment") + " vanished into sharp corners.");
+        const auto overTheSeam = [](const PosRangeD& range) { return range.IsContainZero() ? " (over the seam)" : ""; };
+        std::vector<std::string> lines = {"The piece is the stretch from position " + Short(cut.start, 3) + " to " +
+                                              Short(cut.end, 3) + overTheSeam(cut) + ".",
+                                          "Two maps are composed: from the piece to the outline, and an older one",
+                                          "from the outline to the rebuilt one. " +
+                                              Counted(m_tour.carrying.positions.size(), "position") +
+                                              " of the piece go through them."};
+        lines.push_back(
+            (rebuild.zero == 0 ? "Zero stayed where it was; " : "Zero was moved to " + Short(rebuild.zero, 3) + "; ") +
+            Counted(rebuild.vanished.size(), "segment") + " vanished into sharp corners.");
         if (!rebuild.knowsAll)
         {
             const PosRangeD known = rebuild.map.GetRange(1, true);
             lines.push_back("The older map knows " + Short(known.start, 3) + " to " + Short(known.end, 3) +
-                            (known.IsContainZero() ? " (over the seam)" : "") + " and nothing of the rest.");
+                            overTheSeam(known) + " and nothing of the rest.");
         }
         const double x = Margin + ColumnWidth + Gutter;
         m_page.Text({x, Top - 34}, "Where positions go when an outline is rebuilt", "note title");

@@ -47,7 +47,7 @@ std::vector<Entry> LeftColumn()
 std::vector<Entry> RightColumn()
 {
     return {{Line("sample join"), "position to its image"},
-            {Line("sample join seam"), "to an image of the piece's other end"},
+            {Line("sample join seam"), "to an image through the piece's seam"},
             {Line("sample beeline"), "beeline"},
             {[](SvgPage& page, const DPOINT2& at) { page.Diamond(at, 5.5, "sample crossing"); },
              "crossing with the beeline"},

@@ -131,7 +131,7 @@ std::string RemarkOn(const Image& image, const CarriedPosition& carried, int seg
     }
     if (image.throughSeam)
     {
-        remark += "image of the piece's other end; ";
+        remark += "through the seam of the piece; ";
     }
     else if (carried.images.size() > 1)
     {
@@ -166,6 +166,8 @@ void PrintPositions(const Tour& tour, std::ostream& out)
         }
     }
     table.Print(out);
+    out << "  A piece counts as closed: where its end meets its beginning, both have the images of the jump between "
+           "them.\n";
 }
 
 void PrintCarrying(const Tour& tour, std::ostream& out)

@@ -24,7 +24,7 @@ tour::Tour MakeTour(const tour::Options& options)
     const math::PosRangeD cut = tour::ChooseCut(options.cut, first);
     tour.rebuild = tour::RebuildOf(first);
     tour.carrying = tour::CarryPositions(first, cut, tour.rebuild);
-    tour.beeline = options.beeline.value_or(tour::DefaultBeeline(tour.drawing.outlines));
+    tour.beeline = options.beeline.value_or(tour::DefaultBeeline(first));
     tour.crossings = tour::CrossingsOf(tour.beeline, tour.drawing.outlines);
     return tour;
 }
