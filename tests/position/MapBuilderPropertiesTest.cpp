@@ -1,10 +1,12 @@
 #include "math/CPolyPosMapUtilies.h"
-#include "support/Maps.h"
+#include "support/RandomMaps.h"
 #include "support/ReferenceBuilders.h"
 #include "support/Support.h"
 
 #include <algorithm>
 #include <cmath>
+#include <cstdint>
+#include <string>
 #include <vector>
 
 using namespace math;
@@ -60,31 +62,47 @@ CPolyPosMap UpwardMap(Random& random, int sourceCount, int destinationCount)
                  SomeColumn(random, size, destinationCount, Lap::Within), sourceCount, destinationCount);
 }
 
-/// Any directions, over the seam, without joints, ill-formed or out of normal form now and then.
-CPolyPosMap AnyMap(Random& random, int sourceCount, int destinationCount)
+/// Any directions, over the seam, without joints or ill-formed now and then; in half the cases from end to end.
+class SomeMaps
 {
-    const int size = random.Integer(0, 11) == 0 ? 0 : random.Integer(1, 5);
-    std::vector<double> sources = SomeColumn(random, size, sourceCount, Lap::Any);
-    std::vector<double> destinations = SomeColumn(random, size, destinationCount, Lap::Any);
-    if (random.Integer(0, 3) == 0)
+public:
+    explicit SomeMaps(std::uint32_t seed) : m_maps(seed), m_columns(seed)
     {
-        std::reverse(sources.begin(), sources.end());
     }
-    if (random.Integer(0, 2) == 0)
+
+    int Below(int limit)
     {
-        std::reverse(destinations.begin(), destinations.end());
+        return m_maps.Below(limit);
     }
-    if (size > 1 && random.Integer(0, 15) == 0)
+
+    CPolyPosMap Next(int sourceCount, int destinationCount)
     {
-        std::swap(sources.front(), sources[1]);
+        if (m_maps.OneIn(16))
+        {
+            return m_maps.AnyMap(sourceCount, destinationCount);
+        }
+        if (sourceCount == 0 || destinationCount == 0 || m_maps.OneIn(2))
+        {
+            return m_maps.ValidMap(sourceCount, destinationCount);
+        }
+        const int size = m_columns.Integer(1, 5);
+        std::vector<double> sources = SomeColumn(m_columns, size, sourceCount, Lap::Any);
+        std::vector<double> destinations = SomeColumn(m_columns, size, destinationCount, Lap::Any);
+        if (m_maps.OneIn(4))
+        {
+            std::reverse(sources.begin(), sources.end());
+        }
+        if (m_maps.OneIn(3))
+        {
+            std::reverse(destinations.begin(), destinations.end());
+        }
+        return MapOf(sources, destinations, sourceCount, destinationCount);
     }
-    if (random.Integer(0, 7) == 0)
-    {
-        const int lap = random.Integer(1, 2) * sourceCount;
-        std::for_each(sources.begin(), sources.end(), [lap](double& value) { value += lap; });
-    }
-    return MapOf(sources, destinations, sourceCount, destinationCount);
-}
+
+private:
+    RandomMaps m_maps;
+    Random m_columns;
+};
 
 std::string Told(const CPolyPosMap& map)
 {
@@ -116,14 +134,14 @@ TEST(MapBuilders, CombiningTwoPolylinesAgreesWithASecondImplementation)
 
 TEST(MapBuilders, CombinersAgreeWithASecondImplementation)
 {
-    Random random(20240616);
+    SomeMaps random(31);
     int made = 0;
-    for (int i = 0; i < 12000; ++i)
+    for (int i = 0; i < 3000; ++i)
     {
-        const int sharedCount = random.Integer(1, 4);
-        const int otherCount = random.Integer(0, 9) == 0 ? sharedCount + 1 : sharedCount;
-        const CPolyPosMap a = AnyMap(random, random.Integer(1, 3), sharedCount);
-        const CPolyPosMap b = AnyMap(random, random.Integer(1, 3), otherCount);
+        const int sharedCount = random.Below(5);
+        const int otherCount = random.Below(10) == 0 ? sharedCount + 1 : sharedCount;
+        const CPolyPosMap a = random.Next(random.Below(4), sharedCount);
+        const CPolyPosMap b = random.Next(random.Below(4), otherCount);
         const reference::RefMap plainA = reference::From(a);
         const reference::RefMap plainB = reference::From(b);
         SCOPED_TRACE(Told(a) + " and " + Told(b));
@@ -137,22 +155,22 @@ TEST(MapBuilders, CombinersAgreeWithASecondImplementation)
         ASSERT_EQ(standalone, reference::To(reference::CombineStandalone(plainA, plainB)));
         made += (IsNoMap(joined) ? 0 : 1) + (IsNoMap(standalone) ? 0 : 1);
     }
-    EXPECT_GT(made, 4000);
+    EXPECT_GT(made, 1000);
 }
 
 TEST(MapBuilders, ExtensionAgreesWithASecondImplementation)
 {
-    Random random(20240617);
+    SomeMaps random(32);
     int made = 0;
-    for (int i = 0; i < 8000; ++i)
+    for (int i = 0; i < 3000; ++i)
     {
-        const CPolyPosMap map = AnyMap(random, random.Integer(1, 4), random.Integer(1, 4));
+        const CPolyPosMap map = random.Next(random.Below(5), random.Below(5));
         const reference::RefMap plain = reference::From(map);
-        const int count = random.Integer(0, 3);
-        const int otherCount = random.Integer(0, 3);
-        const bool atFront = random.Coin();
-        const bool source = random.Coin();
-        const bool destination = random.Coin();
+        const int count = random.Below(4);
+        const int otherCount = random.Below(4);
+        const bool atFront = random.Below(2) == 0;
+        const bool source = random.Below(2) == 0;
+        const bool destination = random.Below(2) == 0;
         SCOPED_TRACE(Told(map) + " by " + std::to_string(count) + " and " + std::to_string(otherCount));
 
         const CPolyPosMap extended = CPolyPosMapUtilies::ExtendMap(map, count, atFront, source, destination);
@@ -162,28 +180,28 @@ TEST(MapBuilders, ExtensionAgreesWithASecondImplementation)
         ASSERT_EQ(linearly, reference::To(reference::Extend(plain, count, otherCount, atFront))) << atFront;
         made += (IsNoMap(extended) ? 0 : 1) + (IsNoMap(linearly) ? 0 : 1);
     }
-    EXPECT_GT(made, 6000);
+    EXPECT_GT(made, 2000);
 }
 
 TEST(MapBuilders, RemovalAgreesWithASecondImplementation)
 {
-    Random random(20240618);
+    SomeMaps random(33);
     int made = 0;
-    for (int i = 0; i < 12000; ++i)
+    for (int i = 0; i < 10000; ++i)
     {
-        const CPolyPosMap map = AnyMap(random, random.Integer(1, 4), random.Integer(1, 4));
-        const bool onSource = random.Coin();
+        const CPolyPosMap map = random.Next(random.Below(5), random.Below(5));
+        const bool onSource = random.Below(2) == 0;
         const int count = onSource ? map.SrcSegmentCount() : map.DstSegmentCount();
-        PosRangeD range(0.25 * random.Integer(-2, 4 * count), 0.25 * random.Integer(0, 4 * count + 2));
-        range.start = random.Integer(0, 2) == 0 ? 0.0 : range.start;
-        range.end = random.Integer(0, 2) == 0 ? count : range.end;
+        PosRangeD range(0.25 * (random.Below(4 * count + 3) - 2), 0.25 * random.Below(4 * count + 3));
+        range.start = random.Below(3) == 0 ? 0.0 : range.start;
+        range.end = random.Below(3) == 0 ? count : range.end;
         const CPolyPosMap shortened = CPolyPosMapUtilies::RemoveOpenRangeFromMap(map, range, onSource);
         ASSERT_EQ(shortened,
                   reference::To(reference::RemoveOpenRange(reference::From(map), {range.start, range.end}, onSource)))
             << Told(map) << " without " << Two(range) << (onSource ? " of the source" : " of the destination");
         made += IsNoMap(shortened) ? 0 : 1;
     }
-    EXPECT_GT(made, 6000);
+    EXPECT_GT(made, 3000);
 }
 
 // ---- Positions carried by hand ----
@@ -333,7 +351,7 @@ TEST(MapBuilders, MapsJoinedOnBothSidesCarryEachPartOnItsOwnPolylines)
 {
     Random random(20240621);
     int checked = 0;
-    for (int i = 0; i < 8000; ++i)
+    for (int i = 0; i < 5000; ++i)
     {
         const CPolyPosMap a = UpwardMap(random, random.Integer(1, 3), random.Integer(1, 3));
         const CPolyPosMap b = UpwardMap(random, random.Integer(1, 3), random.Integer(1, 3));
@@ -358,7 +376,7 @@ TEST(MapBuilders, MapsJoinedOnBothSidesCarryEachPartOnItsOwnPolylines)
         }
         checked += imagesOfA.empty() || imagesOfB.empty() ? 0 : 1;
     }
-    EXPECT_GT(checked, 1000);
+    EXPECT_GT(checked, 800);
 }
 
 namespace
