@@ -221,6 +221,8 @@ TEST(IntersectArcsOfOneCircle, EqualEndsMakeAWholeTurnOfTheFirstArc)
     EXPECT_TRUE(Answers(Counterclockwise(3, 0), Counterclockwise(3, 0), -1, {3, 3}));
     EXPECT_TRUE(Answers(Counterclockwise(3, 0), Counterclockwise(3, 1), -1, {3, 4})) << "its end lies inside";
     EXPECT_TRUE(Answers(Counterclockwise(3, 1), Counterclockwise(4, 0), 1, {4}));
+    EXPECT_TRUE(Answers(Counterclockwise(7, 0), Counterclockwise(3, 1), -1, {3, 7}))
+        << "without sweep both ends are the start, which no turn corrects";
 }
 
 TEST(IntersectArcsOfOneCircle, PointsLieOnTheFirstCircleWhereRadiiDiffer)

@@ -92,6 +92,8 @@ TEST(SegmentGetAngle, IsReducedByOneTurnAtMost)
     {
         EXPECT_TRUE(Near(arc.GetAngle(row.t), row.radian, 4e-14)) << row.t;
     }
+    // Clockwise a place a whole turn below 0 is turned up first, so that the tangent needs no more than its own turn.
+    EXPECT_TRUE(Near(CSegment(At(1, 0), At(-1, 0), -1).GetAngle(2), 1.5 * Pi, 4e-14));
 }
 
 TEST(SegmentGetAngle, ALongClockwiseArcCanEndBelowZero)

@@ -149,6 +149,34 @@ TEST(SegmentGetBoundRect, AnAxisPointJustBeyondAnEndOfAnArcCounts)
     }
 }
 
+TEST(SegmentGetBoundRect, TheToleranceOfAxisPointsIncludesItsBound)
+{
+    // Arcs of radius 1000 that begin about 1e-9 beyond the lowest point, or end about 1e-9 before it, in steps of the
+    // resolution of their angles: among them are some whose bound is the direction of the lowest point itself.
+    int begunOnBound = 0;
+    int endedOnBound = 0;
+    for (int k = -20; k <= 20; ++k)
+    {
+        DPOINT2 centre;
+        double from = 0;
+        double sweep = 0;
+        const CSegment beyond = ArcOfAngles(At(0, 0), 1000, ThreeHalvesPi + 1e-9 + k * 0x1p-50, 1);
+        ASSERT_TRUE(SolveArc(beyond.start, beyond.end, beyond.bulge, &centre, nullptr, &from, nullptr));
+        begunOnBound += from - 1e-9 == ThreeHalvesPi ? 1 : 0;
+        const double left = from - 1e-9 <= ThreeHalvesPi ? centre.x : beyond.start.x; // 0 or 1e-6
+        ASSERT_TRUE(Near(beyond.GetBoundRect().x, left, 1e-9)) << k;
+
+        const CSegment before = ArcOfAngles(At(0, 0), 1000, ThreeHalvesPi - 1e-9 - 1 + k * 0x1p-50, 1);
+        ASSERT_TRUE(SolveArc(before.start, before.end, before.bulge, &centre, nullptr, &from, &sweep));
+        endedOnBound += (from + sweep) + 1e-9 == ThreeHalvesPi ? 1 : 0;
+        const double right = (from + sweep) + 1e-9 >= ThreeHalvesPi ? centre.x : before.end.x; // 0 or -1e-6
+        const DRECT box = before.GetBoundRect();
+        ASSERT_TRUE(Near(box.x + box.width, right, 1e-9)) << k;
+    }
+    EXPECT_GT(begunOnBound, 0);
+    EXPECT_GT(endedOnBound, 0);
+}
+
 TEST(SegmentGetBoundRect, OfAnArcHoldsDenseSamplesAndTouchesThem)
 {
     Random random(361);
@@ -156,12 +184,12 @@ TEST(SegmentGetBoundRect, OfAnArcHoldsDenseSamplesAndTouchesThem)
     {
         const CSegment arc = RandomArcSegment(random);
         std::vector<DPOINT2> samples;
-        for (int k = 0; k <= 20000; ++k)
+        for (int k = 0; k <= 2000; ++k)
         {
-            samples.push_back(ArcAt(arc.start, arc.end, arc.bulge, k / 20000.0));
+            samples.push_back(ArcAt(arc.start, arc.end, arc.bulge, k / 2000.0));
         }
-        // Between two samples the arc rises by at most r (sweep / 40000)² / 2, with r to 4 and sweep to 6.
-        ASSERT_TRUE(IsBoxOf(arc.GetBoundRect(), samples, 1e-7));
+        // Between two samples the arc rises by at most r (sweep / 4000)² / 2, with r to 4 and sweep to 6, on each side.
+        ASSERT_TRUE(IsBoxOf(arc.GetBoundRect(), samples, 1e-5));
     }
 }
 

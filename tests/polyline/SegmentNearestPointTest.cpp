@@ -96,6 +96,22 @@ TEST(SegmentGetNearestPoint, TheEndsOfALineThatRoundingMakesEquallyFarGiveTheEnd
     EXPECT_TRUE(Is(NearestOn(line, At(-1e20, 0)), At(2, 0), 1)) << "the squares of both distances are 1e40";
 }
 
+TEST(SegmentGetNearestPoint, OppositeAnEndOfALineRoundingDoesNotLeaveTheSegment)
+{
+    // The foot falls on the end; its ratio comes out as 1 and a rounding unit now and then, which is cut to 1.
+    Random random(344);
+    for (int i = 0; i < 5000; ++i)
+    {
+        const CSegment line = RandomLine(random);
+        const double aside = random.Number(-20, 20);
+        const DPOINT2 p =
+            At(line.end.x - aside * (line.end.y - line.start.y), line.end.y + aside * (line.end.x - line.start.x));
+        const Nearest nearest = NearestOn(line, p);
+        ASSERT_LE(nearest.t, 1);
+        ASSERT_TRUE(Is(nearest, line.end, 1, 1e-12));
+    }
+}
+
 TEST(SegmentGetNearestPoint, ALineOfNoLengthGivesItsEnd)
 {
     EXPECT_TRUE(Is(NearestOn(CSegment(At(1, 1), At(1, 1)), At(5, 5)), At(1, 1), 1));
