@@ -66,20 +66,15 @@ TEST(Points, StartAtTheOriginAndTakeTheAbscissaFirst)
     EXPECT_EQ(point.y, -4.0);
 }
 
-template <typename Other>
-class PointLayout : public ::testing::Test
+TEST(Points, LieInMemoryAsThoseOfTheDependency)
 {
-};
-using PointTypesOfTheDependency = ::testing::Types<gp_XY, gp_Pnt2d>;
-TYPED_TEST_SUITE(PointLayout, PointTypesOfTheDependency);
-
-TYPED_TEST(PointLayout, IsThatOfTheDependency)
-{
-    static_assert(sizeof(DPOINT2) == sizeof(TypeParam), "two doubles");
+    static_assert(sizeof(DPOINT2) == sizeof(gp_XY) && sizeof(DPOINT2) == sizeof(gp_Pnt2d), "two doubles");
     static_assert(std::is_trivially_copyable_v<DPOINT2> && std::is_standard_layout_v<DPOINT2>, "a plain value");
     const DPOINT2 ours(2.5, -7.0);
-    const TypeParam theirs(2.5, -7.0);
-    EXPECT_EQ(std::memcmp(&ours, &theirs, sizeof(ours)), 0);
+    const gp_XY pair(2.5, -7.0);
+    const gp_Pnt2d point(2.5, -7.0);
+    EXPECT_EQ(std::memcmp(&ours, &pair, sizeof(ours)), 0);
+    EXPECT_EQ(std::memcmp(&ours, &point, sizeof(ours)), 0);
 }
 
 TEST(Records, ArePlainValuesWithTheirFieldsInOrder)
