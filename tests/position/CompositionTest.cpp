@@ -216,6 +216,59 @@ TEST(Composition, OfPlacesNearEachOtherTheLastStaysAndHasTheImagesOfBoth)
               Map({{0, 0}, {place, imageOfOne}, {place, 3}, {2, 4}}, 2, 4));
 }
 
+TEST(Composition, WhatLiesBeyondOneLapOfTheSourceGoes)
+{
+    // Unrolled, the first map is (3, 1), (5, 1), (7, 3), (9, 3); one lap from 3 ends at 7.
+    EXPECT_EQ(Map({{3, 1}, {5, 1}}, 4, 2) * Map({{1, 0}, {3, 1}}, 2, 2), Map({{3, 0}, {5, 0}, {7, 1}}, 4, 2));
+}
+
+TEST(Composition, WhereOneLapOfTheSourceEndsAJointComesInBeforeTheRestGoes)
+{
+    // Unrolled, the first map carries 2 to 5 into the second, which collapses them: (2, 0), (5, 0). One lap from 2 ends
+    // at 4, and (2, 0), (4, 0) is (0, 0), (2, 0) in normal form.
+    EXPECT_EQ(Map({{1, 0}, {2, 1}, {3, 1}}, 2, 2) * Map({{1, 0}, {3, 0}}, 2, 2), Map({{0, 0}, {2, 0}}, 2, 2));
+    // The lap is one of the given map, though it was unrolled to two.
+    EXPECT_EQ(Map({{0, 1}, {1, 1}}, 4, 2) * Map({{1, 0}, {3, 0}}, 2, 4), Map({{0, 0}, {4, 0}}, 4, 4));
+}
+
+TEST(Composition, WhatLiesBeyondOneLapOfTheDestinationGoes)
+{
+    // Unrolled, the second map jumps from 1 to 2 and then from 3 to 4; one lap from 1 ends at 3.
+    EXPECT_EQ(Map({{1, 1}, {2, 2}, {3, 3}}, 2, 2) * Map({{1, 1}, {1, 2}}, 2, 2), Map({{1, 1}, {1, 2}, {3, 3}}, 2, 2));
+}
+
+TEST(Composition, WhereOneLapOfTheDestinationEndsAJointComesInBeforeTheRestGoes)
+{
+    // Unrolled, the second map jumps from 2 to 4 at 1 and from 4 to 8 at 3; one lap from 2 ends at 6.
+    EXPECT_EQ(Map({{1, 1}, {2, 3}}, 2, 2) * Map({{1, 2}, {1, 4}, {3, 4}}, 2, 4),
+              Map({{1, 2}, {1, 4}, {2, 4}, {2, 6}}, 2, 4));
+}
+
+TEST(Composition, AMapThatNeverBecomesNormalMayComeOutOfNormalOnes)
+{
+    // Unrolled, the second map falls from 4 to 2 at 1 and from 2 to 0 at 3. Both belong to source position 0, and one lap
+    // down from 4 ends at 2. The front picks the lap: 4 comes to 0 and 2 to -2.
+    CPolyPosMap product = Map({{0, 1}, {0, 3}}, 4, 2) * Map({{1, 2}, {1, 0}}, 2, 2);
+    EXPECT_EQ(product, Map({{0, 0}, {0, -2}}, 4, 2));
+    EXPECT_FALSE(product.IsNormalize());
+    product *= Whole(2);
+    EXPECT_EQ(product, NoMap());
+}
+
+TEST(Composition, ComesToAnEndWithPositionsThatAreNoNumbers)
+{
+    const CPolyPosMap source = Map({{0, 0}, {NaN, 1}, {2, 2}}, 2, 2);
+    const CPolyPosMap destination = Map({{0, 0}, {1, NaN}, {2, 2}}, 2, 2);
+    for (const CPolyPosMap& product :
+         {source * Whole(2), Whole(2) * source, destination * Whole(2), Whole(2) * destination, source * source,
+          destination * destination, source * destination, destination * source})
+    {
+        const int count = product.SrcSegmentCount();
+        EXPECT_EQ(count, product.DstSegmentCount());
+        EXPECT_EQ(count, product.IsEmpty() ? 0 : 2);
+    }
+}
+
 TEST(Composition, ManyJointsKeepTheirOrder)
 {
     const int count = 64; // interpolation over a power of two is exact

@@ -343,3 +343,11 @@ TEST(PosMapOfACutPiece, TheCountIsTakenBeforeStraightJointsGo)
     EXPECT_EQ(Cut({0, 9}, 9), Map({{0, 0}, {9, 9}}, 9, 9));
     EXPECT_EQ(Cut({7, 5}, 9), Map({{0, 7}, {7, 14}}, 7, 9));
 }
+
+TEST(PosMapOfACutPiece, WithoutPositionsForEndsThereIsNoPiece)
+{
+    EXPECT_EQ(Cut({NaN, 2}, 4), NoMap());
+    EXPECT_EQ(Cut({2, NaN}, 4), NoMap());
+    EXPECT_EQ(Cut({1, 1e300}, 4), NoMap());
+    EXPECT_EQ(Cut({0.5, Infinite}, 4), NoMap());
+}
