@@ -63,7 +63,7 @@ done
 [ "$has_drawing" = yes ] || arguments=("$drawing" "${arguments[@]}")
 [ "$has_picture" = yes ] || arguments+=(--svg "$picture")
 
-ensure_packages g++ cmake ninja-build pkg-config libocct-foundation-dev libdxflib-dev
+ensure_packages g++ cmake ninja-build pkgconf libocct-foundation-dev libdxflib-dev
 say "building outline_tour in $build"
 build_tour
 say "running outline_tour"

@@ -2,6 +2,7 @@
 
 #include "Labels.h"
 #include "Outline.h"
+#include "PictureLayout.h"
 #include "PictureStyle.h"
 #include "Svg.h"
 #include "Text.h"
@@ -23,80 +24,10 @@ using math::DPOINT2;
 using math::DRECT;
 using math::PosRangeD;
 
-constexpr double PageWidth = 1280;
-constexpr double Margin = 48;
-constexpr double Top = 64;
-constexpr double Gutter = 56;
-constexpr double ColumnWidth = (PageWidth - 2 * Margin - Gutter) / 2;
-constexpr double GreatestHeight = 520;
-constexpr double LegendHeight = 216; ///< what the legend and the notes need above and below a drawing
-constexpr double BeelineOverhang = 22;
 constexpr double LabelSize = 12;
 constexpr double MarkSize = 4.5;
 constexpr std::size_t MostLabelledCrossings = 60;
 constexpr std::size_t MostMarkedNodes = 200;
-
-/// The page: two views of the same scale, the right one lower, so that the lines between them don't run along edges.
-struct Layout
-{
-    View left;
-    View right;
-    DRECT leftFrame; ///< of the drawing on the page
-    double rightTop = 0;
-    double height = 0;
-};
-
-DRECT BoxOf(const Tour& tour)
-{
-    DRECT box = tour.rebuild.outline.GetRECT();
-    for (const CPolyline& outline : tour.drawing.outlines)
-    {
-        box.Union(box, outline.GetRECT());
-    }
-    return box;
-}
-
-Layout LayOut(const DRECT& box)
-{
-    constexpr double leastSize = 1e-9;
-    const double scale =
-        std::min(ColumnWidth / std::max(box.width, leastSize), GreatestHeight / std::max(box.height, leastSize));
-    const double width = scale * box.width;
-    const double height = scale * box.height;
-    const double drop = std::max(LegendHeight, 0.3 * height);
-
-    Layout layout;
-    layout.leftFrame = {Margin + (ColumnWidth - width) / 2, Top, width, height};
-    layout.rightTop = Top + drop;
-    layout.left = {scale, layout.leftFrame.x - scale * box.x, Top + height + scale * box.y};
-    layout.right = {scale, layout.left.left + ColumnWidth + Gutter, layout.left.top + drop};
-    layout.height = Top + height + drop + Margin;
-    return layout;
-}
-
-/// Clips an unbounded line to a frame (Liang and Barsky).
-std::optional<std::pair<DPOINT2, DPOINT2>> ClipLine(const DPOINT2& point, const DPOINT2& direction, const DRECT& frame)
-{
-    double enter = -1e12;
-    double leave = 1e12;
-    const auto clip = [&](double at, double step, double low, double high) {
-        if (std::abs(step) < 1e-12)
-        {
-            return at >= low && at <= high;
-        }
-        const auto [first, last] = std::minmax((low - at) / step, (high - at) / step);
-        enter = std::max(enter, first);
-        leave = std::min(leave, last);
-        return enter < leave;
-    };
-    if (!clip(point.x, direction.x, frame.x, frame.x + frame.width) ||
-        !clip(point.y, direction.y, frame.y, frame.y + frame.height))
-    {
-        return std::nullopt;
-    }
-    const auto at = [&](double t) { return DPOINT2(point.x + t * direction.x, point.y + t * direction.y); };
-    return std::make_pair(at(enter), at(leave));
-}
 
 /// The step between labelled nodes that gives a dozen labels at most: 1, 2, 5, 10 and so on.
 int NodeLabelStep(int count)
@@ -110,6 +41,16 @@ int NodeLabelStep(int count)
     return step;
 }
 
+DRECT BoxOf(const Tour& tour)
+{
+    DRECT box = tour.rebuild.outline.GetRECT();
+    for (const CPolyline& outline : tour.drawing.outlines)
+    {
+        box.Union(box, outline.GetRECT());
+    }
+    return box;
+}
+
 class Picture
 {
 public:
@@ -117,8 +58,9 @@ public:
         : m_tour(tour),
           m_first(tour.drawing.outlines.front()),
           m_layout(LayOut(BoxOf(tour))),
-          m_page(PageWidth, m_layout.height, "Positions of " + tour.drawing.name + " and their images", PictureStyle()),
-          m_labels(PageWidth, m_layout.height)
+          m_page(m_layout.width, m_layout.height, "Positions of " + tour.drawing.name + " and their images",
+                 PictureStyle()),
+          m_labels(m_layout.width, m_layout.height)
     {
     }
 
@@ -135,7 +77,7 @@ public:
         DrawMarks();
         DrawLabels();
         DrawCaptions();
-        DrawPictureLegend(m_page, {Margin, m_layout.height - Margin + 12});
+        DrawPictureLegend(m_page, m_layout.legend);
         DrawNotes();
         return m_page.Finish();
     }
@@ -162,11 +104,12 @@ private:
 
     void FindBeeline()
     {
+        constexpr double overhang = 22;
         const DPOINT2 direction = DirectionOf(m_tour.beeline);
-        DRECT frame = m_layout.leftFrame;
-        frame = {frame.x - BeelineOverhang, frame.y - BeelineOverhang, frame.width + 2 * BeelineOverhang,
-                 frame.height + 2 * BeelineOverhang};
-        m_beeline = ClipLine(m_layout.left(m_tour.beeline.point), {direction.x, -direction.y}, frame);
+        const DRECT& frame = m_layout.leftFrame;
+        m_beeline =
+            ClipLine(m_layout.left(m_tour.beeline.point), {direction.x, -direction.y},
+                     {frame.x - overhang, frame.y - overhang, frame.width + 2 * overhang, frame.height + 2 * overhang});
     }
 
     // ---- Lines ----
@@ -385,12 +328,11 @@ private:
 
     void DrawCaptions()
     {
-        const DRECT& frame = m_layout.leftFrame;
-        m_page.Text({Margin, frame.y - 34},
+        m_page.Text(m_layout.leftCaption,
                     m_tour.drawing.name + ": " + Counted(m_tour.drawing.outlines.size(), "outline") +
                         ", the first of " + Counted(m_first.nodes.size(), "segment"),
                     "note caption");
-        m_page.Text({Margin + ColumnWidth + Gutter, m_layout.rightTop - 34},
+        m_page.Text(m_layout.rightCaption,
                     "The first outline rebuilt: " + Counted(m_tour.rebuild.outline.nodes.size(), "segment"),
                     "note caption");
     }
@@ -415,13 +357,13 @@ private:
             lines.push_back("The older map knows " + Short(known.start, 3) + " to " + Short(known.end, 3) +
                             overTheSeam(known) + " and nothing of the rest.");
         }
-        const double x = Margin + ColumnWidth + Gutter;
-        m_page.Text({x, Top - 34}, "Where positions go when an outline is rebuilt", "note title");
-        double y = Top - 6;
+        DPOINT2 at = m_layout.title;
+        m_page.Text(at, "Where positions go when an outline is rebuilt", "note title");
+        at.y += 28;
         for (const std::string& line : lines)
         {
-            m_page.Text({x, y}, line, "note");
-            y += 21;
+            m_page.Text(at, line, "note");
+            at.y += 21;
         }
     }
 

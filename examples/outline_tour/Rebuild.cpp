@@ -164,6 +164,7 @@ Rebuild RebuildOf(const CPolyline& outline)
     const std::vector<Candidate> vanished = ChooseVanished(rebuild.moved, CandidatesOf(rebuild.moved, knownUpTo));
     for (const Candidate& candidate : vanished)
     {
+        rebuild.corners.push_back(candidate.segment - static_cast<int>(rebuild.vanished.size()));
         rebuild.vanished.push_back(candidate.segment);
     }
     rebuild.outline = WithCorners(rebuild.moved, vanished);

@@ -17,6 +17,7 @@ struct Rebuild
     double zero = 0;           ///< position on the old outline at which the new one begins
     math::CPolyline moved;     ///< the old outline, begun at `zero`
     std::vector<int> vanished; ///< segments of the moved outline that are gone, ascending
+    std::vector<int> corners;  ///< positions on the new outline that took their place, in the same order
     math::CPolyline outline;   ///< the new outline
     math::CPolyPosMap map;     ///< from the old outline to the new one, as far as is known
     bool knowsAll = true;

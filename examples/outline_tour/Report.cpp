@@ -3,7 +3,10 @@
 #include "Table.h"
 #include "Text.h"
 
+#include <algorithm>
 #include <string>
+#include <utility>
+#include <vector>
 
 namespace tour
 {
@@ -52,14 +55,41 @@ std::string Joints(const math::CPolyPosMap& map)
     return text;
 }
 
-std::string List(const std::vector<int>& numbers)
+std::string Joined(const std::vector<std::string>& parts)
 {
     std::string text;
-    for (const int number : numbers)
+    for (const std::string& part : parts)
     {
-        text += (text.empty() ? "" : ", ") + std::to_string(number);
+        text += (text.empty() ? "" : ", ") + part;
     }
     return text;
+}
+
+std::string List(const std::vector<int>& numbers)
+{
+    std::vector<std::string> parts;
+    for (const int number : numbers)
+    {
+        parts.push_back(std::to_string(number));
+    }
+    return Joined(parts);
+}
+
+void PrintLeftAside(const Drawing& drawing, std::ostream& out)
+{
+    constexpr std::size_t shown = 8;
+    std::vector<std::string> kinds;
+    for (const auto& [kind, count] : drawing.others)
+    {
+        if (kinds.size() < shown)
+        {
+            kinds.push_back(std::to_string(count) + " " + Quoted(kind));
+        }
+    }
+    if (!kinds.empty())
+    {
+        out << "  Left aside: " << Joined(kinds) << (drawing.others.size() > shown ? " and more" : "") << ".\n";
+    }
 }
 
 void PrintOutlines(const Drawing& drawing, std::ostream& out)
@@ -77,20 +107,7 @@ void PrintOutlines(const Drawing& drawing, std::ostream& out)
     out << "Outlines of " << Quoted(drawing.name) << "\n";
     table.Print(out);
     out << "  The area counts as negative counter-clockwise, as positive clockwise, and as 0 if the outline is open.\n";
-    std::string others;
-    std::size_t kinds = 0;
-    for (const auto& [kind, count] : drawing.others)
-    {
-        constexpr std::size_t shown = 8;
-        if (kinds++ < shown)
-        {
-            others += (others.empty() ? "" : ", ") + std::to_string(count) + " " + Quoted(kind);
-        }
-    }
-    if (!others.empty())
-    {
-        out << "  Left aside: " << others << (kinds > 8 ? " and more" : "") << ".\n";
-    }
+    PrintLeftAside(drawing, out);
     out << "\n";
 }
 
@@ -118,56 +135,76 @@ void PrintRebuild(const Tour& tour, std::ostream& out)
     out << "  Joints: " << Joints(rebuild.map) << "\n\n";
 }
 
-std::string RemarkOn(const Image& image, const CarriedPosition& carried, int segmentCount)
+std::string RemarkOn(const Image& image, const CarriedPosition& carried, const Rebuild& rebuild)
 {
-    std::string remark;
+    std::vector<std::string> remarks;
     if (image.raw != image.position)
     {
-        remark += "raw " + ShortPosition(image.raw) + "; ";
+        remarks.push_back("raw " + ShortPosition(image.raw));
     }
-    if (image.position >= segmentCount)
+    if (image.position >= SegmentCount(rebuild.outline))
     {
-        remark += "the seam, end of the last segment; ";
+        remarks.push_back("the end of the last segment");
+    }
+    if (std::find(rebuild.corners.begin(), rebuild.corners.end(), image.position) != rebuild.corners.end())
+    {
+        remarks.push_back("a sharp corner");
     }
     if (image.throughSeam)
     {
-        remark += "through the seam of the piece; ";
+        remarks.push_back("through the seam of the piece");
     }
     else if (carried.images.size() > 1)
     {
-        remark += "one of " + std::to_string(carried.images.size()) + " images; ";
+        remarks.push_back("one of " + std::to_string(carried.images.size()) + " images");
     }
-    return remark.substr(0, remark.size() < 2 ? 0 : remark.size() - 2);
+    return Joined(remarks);
+}
+
+void AddRows(Table& table, std::size_t number, const CarriedPosition& carried, const Rebuild& rebuild)
+{
+    const std::vector<std::string> head = {std::to_string(number), Position(carried.onPiece),
+                                           Position(carried.onOutline)};
+    const auto add = [&](std::vector<std::string> rest) {
+        rest.insert(rest.begin(), head.begin(), head.end());
+        table.Add(std::move(rest));
+    };
+    for (const Image& image : carried.images)
+    {
+        add({Position(image.position), std::to_string(image.place.segment), Fixed(image.place.ratio, PositionDecimals),
+             Coordinate(image.place.point.x), Coordinate(image.place.point.y), RemarkOn(image, carried, rebuild)});
+    }
+    for (const double position : carried.missed)
+    {
+        add({"-", "-", "-", "-", "-", "not in the composed map; the maps one by one give " + ShortPosition(position)});
+    }
+    if (carried.images.empty() && carried.missed.empty())
+    {
+        add({"-", "-", "-", "-", "-", "no image"});
+    }
+}
+
+bool HasImageThroughSeam(const CarriedPosition& carried)
+{
+    return std::any_of(carried.images.begin(), carried.images.end(),
+                       [](const Image& image) { return image.throughSeam; });
 }
 
 void PrintPositions(const Tour& tour, std::ostream& out)
 {
     Table table({"no", "on piece", "on outline", "image", "segment", "ratio", "x", "y", "remark"});
-    const int rebuiltCount = SegmentCount(tour.rebuild.outline);
     std::size_t number = 0;
     for (const CarriedPosition& carried : tour.carrying.positions)
     {
-        const std::vector<std::string> head = {std::to_string(++number), Position(carried.onPiece),
-                                               Position(carried.onOutline)};
-        for (const Image& image : carried.images)
-        {
-            table.Add({head[0], head[1], head[2], Position(image.position), std::to_string(image.place.segment),
-                       Fixed(image.place.ratio, PositionDecimals), Coordinate(image.place.point.x),
-                       Coordinate(image.place.point.y), RemarkOn(image, carried, rebuiltCount)});
-        }
-        for (const double position : carried.missed)
-        {
-            table.Add({head[0], head[1], head[2], "-", "-", "-", "-", "-",
-                       "not in the composed map; the maps one by one give " + ShortPosition(position)});
-        }
-        if (carried.images.empty() && carried.missed.empty())
-        {
-            table.Add({head[0], head[1], head[2], "-", "-", "-", "-", "-", "no image"});
-        }
+        AddRows(table, ++number, carried, tour.rebuild);
     }
     table.Print(out);
-    out << "  A piece counts as closed: where its end meets its beginning, both have the images of the jump between "
-           "them.\n";
+    if (std::any_of(tour.carrying.positions.begin(), tour.carrying.positions.end(), HasImageThroughSeam))
+    {
+        out << "  A piece counts as closed: where its end meets its beginning, both have the images of the jump "
+               "between "
+               "them.\n";
+    }
 }
 
 void PrintCarrying(const Tour& tour, std::ostream& out)

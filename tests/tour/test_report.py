@@ -167,6 +167,7 @@ class CarriedPositions(unittest.TestCase):
             own = [row for row in self.rows_of(cut) if "seam of the piece" not in row["remark"]]
             self.assertEqual([row["no"] for row in own], [str(i) for i in range(1, 14)])
             self.assertEqual({(row["x"], row["y"]) for row in own}, {corner})
+            self.assertEqual({row["remark"].split(",")[0] for row in own}, {"a sharp corner"})
 
     def test_a_piece_of_which_the_older_map_knows_nothing(self):
         # All it can know of is the seam of the piece, which stands for the rest of the outline.
