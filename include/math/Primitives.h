@@ -302,8 +302,9 @@ QORMATH_EXPORT DPOINT2 CoorTransUVToXY(const DPOINT2& point, const DPOINT2& orig
 // ---- Point-on-curve predicates ----
 //
 // The word In means on the curve, not in its interior; the interior of an ellipse has IsPointInsideEllipse. All
-// predicates answer false where they cannot decide, for a NaN as for a curve that does not exist; IsPointInsideEllipse
-// is the one exception. Unless a form has a parameter for it, the tolerance is 1e-9.
+// predicates answer false where they cannot decide, as for a curve that does not exist. A NaN counts as inside for
+// IsPointInsideEllipse and passes the tests of IsPointInLine and IsPointProjInLine that it takes part in; elsewhere it
+// gives false. Unless a form has a parameter for it, the tolerance is 1e-9.
 //
 // An arc is told by a start and an unsigned extent in radians, `ccw` true running counter-clockwise and false
 // clockwise from the start. An ellipse is told by its centre, the semi-axis `a` along its own x axis, the semi-axis
@@ -316,12 +317,13 @@ QORMATH_EXPORT bool IsPointInLine(const DPOINT2& point, const DPOINT2& a, const 
 /// Tells whether `point` lies on the bounded stretch from `a` to `b`.
 ///
 /// The distance from the unbounded line may be up to `tolerance`, and each end is widened by `tolerance` along the axis
-/// in which the stretch is longer (y for a tie). A stretch of zero length holds no point, not even its own end.
+/// in which the stretch is longer (y for a tie). A stretch of zero length holds no point, not even its own end. Where the
+/// distance is NaN the coordinate of that axis decides alone.
 QORMATH_EXPORT bool IsPointInLine(const DPOINT2& point, const DPOINT2& a, const DPOINT2& b, const double& tolerance);
 
 /// Tells whether the foot of the perpendicular from `point` falls on the stretch from `a` to `b`, ends included.
 ///
-/// Exact, without tolerance. True for any point when `a` equals `b`.
+/// Exact, without tolerance. True for any point when `a` equals `b`, and where a NaN leaves no foot to compare.
 QORMATH_EXPORT bool IsPointProjInLine(const DPOINT2& point, const DPOINT2& a, const DPOINT2& b);
 
 /// Tells whether `point` lies on an arc, with an angular tolerance of 1e-9.

@@ -54,8 +54,7 @@ bool IsPointInLine(const DPOINT2& point, const DPOINT2& a, const DPOINT2& b, con
     {
         const gp_Dir2d direction = detail::DirectionBetween(a, b);
         const double offset = std::abs(direction.Y() * (point.x - a.x) - (point.y - a.y) * direction.X());
-        // Also false for a point of NaN, which no range below would catch if it is tested in the other coordinate.
-        if (!(offset <= tolerance))
+        if (offset > tolerance)
         {
             return false;
         }
@@ -75,7 +74,8 @@ bool IsPointProjInLine(const DPOINT2& point, const DPOINT2& a, const DPOINT2& b)
 {
     const double fromStart = D2DotMultiply(detail::VectorBetween(a, b), detail::VectorBetween(a, point));
     const double fromEnd = D2DotMultiply(detail::VectorBetween(b, a), detail::VectorBetween(b, point));
-    return fromStart >= 0.0 && fromEnd >= 0.0;
+    // Written so that a NaN, which lies on neither side, passes.
+    return !(fromStart < 0.0) && !(fromEnd < 0.0);
 }
 
 bool IsPointInArc(const DPOINT2& point, const DPOINT2& centre, double radius, double startRadian, double extent,

@@ -133,12 +133,13 @@ TEST(SegmentGetNearestPoint, ASlotOfZeroIsStraightWhateverTheType)
     EXPECT_TRUE(Is(NearestOn(none, At(1, 5)), At(0, 0), 1));
 }
 
-TEST(SegmentGetNearestPoint, APointThatIsNoneGivesTheStart)
+TEST(SegmentGetNearestPoint, APointThatIsNoneGivesTheEndOfALineAndTheStartOfAnArc)
 {
-    // It has no foot anywhere, and the distance to the end is not the smaller one.
     for (const DPOINT2& none : {At(InvalidDouble, 0), At(0, InvalidDouble)})
     {
-        EXPECT_TRUE(Is(NearestOn(CSegment(At(1, 2), At(3, 4)), none), At(1, 2), 0));
+        // Its ratio along a line is NaN, which is clamped to 1; the end is start + 1 * (end - start).
+        EXPECT_TRUE(Is(NearestOn(CSegment(At(1, 2), At(3, 4)), none), At(3, 4), 1));
+        // It lies in no sector, and the distance to the end is not the smaller one.
         EXPECT_TRUE(Is(NearestOn(upperHalf, none), At(1, 0), 0));
     }
 }

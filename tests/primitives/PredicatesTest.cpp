@@ -153,15 +153,20 @@ TEST(PointInLine, DoesNotExistOnAStretchOfNoLength)
     EXPECT_TRUE(IsPointInLine(At(0, 0), At(0, 0), At(1e-12, 0)));
 }
 
-TEST(PointInLine, IsNeverNaN)
+TEST(PointInLine, IsNotDecidedByADistanceOfNaNButByTheLongerAxis)
 {
+    // Along x: a NaN among the abscissae holds no point, one among the ordinates leaves the range in x.
     EXPECT_FALSE(IsPointInLine(At(InvalidDouble, 0), At(0, 0), At(1, 0)));
-    EXPECT_FALSE(IsPointInLine(At(0.5, InvalidDouble), At(0, 0), At(1, 0)));
-    EXPECT_FALSE(IsPointInLine(At(InvalidDouble, 0.5), At(0, 0), At(0, 1)));
-    EXPECT_FALSE(IsPointInLine(At(0.5, 0), At(InvalidDouble, 0), At(1, 0)));
-    EXPECT_FALSE(IsPointInLine(At(0.5, 0), At(0, 0), At(InvalidDouble, 0)));
+    EXPECT_TRUE(IsPointInLine(At(0.5, InvalidDouble), At(0, 0), At(1, 0)));
+    EXPECT_FALSE(IsPointInLine(At(1.5, InvalidDouble), At(0, 0), At(1, 0)));
+    // Along y the other way round.
+    EXPECT_TRUE(IsPointInLine(At(InvalidDouble, 0.5), At(0, 0), At(0, 1)));
+    EXPECT_FALSE(IsPointInLine(At(0, InvalidDouble), At(0, 0), At(0, 1)));
+    // An end of NaN is longer along no axis, which leaves y.
+    EXPECT_TRUE(IsPointInLine(At(9, 0.5), At(InvalidDouble, 0), At(1, 1)));
+    EXPECT_TRUE(IsPointInLine(At(9, 0.5), At(0, 0), At(InvalidDouble, 1)));
+    EXPECT_FALSE(IsPointInLine(At(9, 1.5), At(0, 0), At(InvalidDouble, 1)));
     EXPECT_FALSE(IsPointInLine(At(0.5, 0), At(0, InvalidDouble), At(1, 0)));
-    EXPECT_FALSE(IsPointInLine(At(0.5, 0), At(0, 0), At(1, InvalidDouble)));
     EXPECT_FALSE(IsPointInLine(At(0.5, 0), At(0, 0), At(1, 0), InvalidDouble));
 }
 
@@ -213,12 +218,12 @@ TEST(FootInLine, IsAnyPointForAStretchOfNoLength)
     EXPECT_TRUE(IsPointProjInLine(At(1, 2), At(1, 2), At(1, 2)));
 }
 
-TEST(FootInLine, IsNeverNaN)
+TEST(FootInLine, OfANaNLiesBeyondNeitherEnd)
 {
-    EXPECT_FALSE(IsPointProjInLine(At(InvalidDouble, 0), At(0, 0), At(1, 0)));
-    EXPECT_FALSE(IsPointProjInLine(At(0.5, InvalidDouble), At(0, 0), At(1, 0)));
-    EXPECT_FALSE(IsPointProjInLine(At(0.5, 0), At(0, InvalidDouble), At(1, 0)));
-    EXPECT_FALSE(IsPointProjInLine(At(0.5, 0), At(0, 0), At(InvalidDouble, 0)));
+    EXPECT_TRUE(IsPointProjInLine(At(InvalidDouble, 0), At(0, 0), At(1, 0)));
+    EXPECT_TRUE(IsPointProjInLine(At(0.5, InvalidDouble), At(0, 0), At(1, 0)));
+    EXPECT_TRUE(IsPointProjInLine(At(0.5, 0), At(0, InvalidDouble), At(1, 0)));
+    EXPECT_TRUE(IsPointProjInLine(At(0.5, 0), At(0, 0), At(InvalidDouble, 0)));
 }
 
 // ---- Arcs by angles ----
