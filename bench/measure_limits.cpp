@@ -1,5 +1,6 @@
-// Measures where the methods of the library begin to lose or invent points, and prints one table a limit. Each case is made so
-// that its true answer is known: a crossing is chosen first, in extended precision, and the curves are put through it.
+// Measures where the methods of the library begin to lose or invent points, and prints one table a limit. Each case is
+// made so that its true answer is known: a crossing is chosen first, in extended precision, and the curves are put
+// through it.
 
 #include "math/QorMath.h"
 

@@ -258,15 +258,16 @@ QORMATH_EXPORT int Intersect_ArcWithArc(const DPOINT2& firstCentre, double first
 // direction of its own x axis. An elliptical arc adds a start and a signed sweep: polar angles at the centre, counted
 // from the ellipse's own x axis, a positive sweep running counter-clockwise. Nothing asks for a >= b here.
 //
-// A tangency is looked for first: a point of the ellipse with the direction of the line that lies within DoubleTolerance
-// of it. Otherwise the line is moved into the ellipse's own frame and SolveQuadraticEquation gives the points, the root of
-// larger magnitude first; no side can be read from their order. Both ends of an elliptical arc count as on it within
-// DoubleTolerance of angle. Semi-axes of 0 are not tested for: they give what the divisions by them give.
+// A tangency is looked for first: a point of the ellipse with the direction of the line that lies within
+// DoubleTolerance of it. Otherwise the line is moved into the ellipse's own frame and SolveQuadraticEquation gives the
+// points, the root of larger magnitude first; no side can be read from their order. Both ends of an elliptical arc
+// count as on it within DoubleTolerance of angle. Semi-axes of 0 are not tested for: they give what the divisions by
+// them give.
 
 /// A beeline and an ellipse.
 ///
-/// Unlike the rest of the family it needs both outputs and always writes both: (InvalidDouble, InvalidDouble) for a point
-/// that does not exist. A tangency is one point, in `first`.
+/// Unlike the rest of the family it needs both outputs and always writes both: (InvalidDouble, InvalidDouble) for a
+/// point that does not exist. A tangency is one point, in `first`.
 ///
 /// @param point, angle            the beeline
 /// @param centre, a, b, rotation  the ellipse
@@ -327,17 +328,18 @@ QORMATH_EXPORT int Intersect_LineWithEllipseArc(const DPOINT2& firstEnd, const D
 // ---- Ellipses with ellipses, circles and arcs ----
 //
 // These members have four outputs, and rules of their own for them:
-// - Pointer forms set every output that is given: (InvalidDouble, InvalidDouble) where there is no point. The exceptions
-//   are told with their members.
+// - Pointer forms set every output that is given: (InvalidDouble, InvalidDouble) where there is no point. The
+//   exceptions are told with their members.
 // - Vector forms replace the content of the vector, whatever the result. `maxPoints` from 0 to 3 limits the vector, any
 //   other value means four; the result is that of the pointer form.
 //
-// Each ellipse is cut at its four extreme points into quarter arcs, over which y is a function of x. All sixteen pairs are
-// compared by height and slope at the ends of their shared range and bisected where they cross; points that coincide
-// under DoubleTolerance are merged. The order of the points is that of the quarter arcs of the first ellipse, by polar angle
-// from its own x axis. The method is numeric, with these limits: a tangency at a point where quarter arcs end may be missed,
-// since the last bits decide; ellipses given with a < b may be rejected though they meet, since a quick test reads `a` as
-// the greater semi-axis; a search whose verticals miss an arc by rounding ends where it stands.
+// Each ellipse is cut at its four extreme points into quarter arcs, over which y is a function of x. All sixteen pairs
+// are compared by height and slope at the ends of their shared range and bisected where they cross; points that
+// coincide under DoubleTolerance are merged. The order of the points is that of the quarter arcs of the first ellipse,
+// by polar angle from its own x axis. The method is numeric, with these limits: a tangency at a point where quarter
+// arcs end may be missed, since the last bits decide; ellipses given with a < b may be rejected though they meet, since
+// a quick test reads `a` as the greater semi-axis; a search whose verticals miss an arc by rounding ends where it
+// stands.
 
 /// Two ellipses.
 ///
@@ -359,8 +361,8 @@ QORMATH_EXPORT int Intersect_EllipseWithEllipse(const DPOINT2& firstCentre, doub
 
 /// An ellipse and an elliptical arc.
 ///
-/// The arc is tested exactly, apart from its ends, which count within DoubleTolerance of distance. A negative sweep is not
-/// served: only points at the ends of such an arc are kept.
+/// The arc is tested exactly, apart from its ends, which count within DoubleTolerance of distance. A negative sweep is
+/// not served: only points at the ends of such an arc are kept.
 ///
 /// @param ellipseCentre, ellipseA, ellipseB, ellipseRotation       the ellipse
 /// @param arcCentre, arcA, arcB, arcRotation, start, sweep  the elliptical arc
@@ -381,9 +383,10 @@ QORMATH_EXPORT int Intersect_EllipseWithEllipseArc(const DPOINT2& ellipseCentre,
 ///
 /// @param firstCentre, firstA, firstB, firstRotation, firstStart, firstSweep        the first arc
 /// @param secondCentre, secondA, secondB, secondRotation, secondStart, secondSweep  the second arc
-/// @param first, second, third, fourth                                              receive the points; each may be null
-/// @return the number of points, at most 4. Arcs of one ellipse give 1 or 2 for shared ends, and -1, without a point, for an
-///         overlap along a length
+/// @param first, second, third, fourth                                              receive the points; each may be
+/// null
+/// @return the number of points, at most 4. Arcs of one ellipse give 1 or 2 for shared ends, and -1, without a point,
+///         for an overlap along a length
 QORMATH_EXPORT int Intersect_EllipseArcWithEllipseArc(const DPOINT2& firstCentre, double firstA, double firstB,
                                                       double firstRotation, double firstStart, double firstSweep,
                                                       const DPOINT2& secondCentre, double secondA, double secondB,
@@ -473,12 +476,12 @@ QORMATH_EXPORT int Intersect_ArcWithEllipseArc(const DPOINT2& arcCentre, double 
 
 /// The roots of a·x² + b·x + c = 0, by the form of the quadratic formula that loses no digits.
 ///
-/// The coefficients are scaled by the greatest of them first, so the tolerances are relative to it: a leading coefficient
-/// below 1e-9 of it makes the equation linear (the far root is then not reported), and a parabola short of the axis by less
-/// than that touches it.
+/// The coefficients are scaled by the greatest of them first, so the tolerances are relative to it: a leading
+/// coefficient below 1e-9 of it makes the equation linear (the far root is then not reported), and a parabola short of
+/// the axis by less than that touches it.
 ///
-/// @param x1, x2  receive the roots, the one of larger magnitude first and a double root in both; InvalidDouble stands for a
-///                root that does not exist. Either may be null
+/// @param x1, x2  receive the roots, the one of larger magnitude first and a double root in both; InvalidDouble stands
+///                for a root that does not exist. Either may be null
 /// @return the number of distinct roots: 0, 1 or 2. All coefficients 0 give 0; a NaN coefficient gives 2 and NaN roots
 QORMATH_EXPORT int SolveQuadraticEquation(double a, double b, double c, double* x1, double* x2);
 
@@ -489,12 +492,12 @@ QORMATH_EXPORT bool SolveQuadraticEquation(double a, double b, double c, std::ve
 /// The roots of a·x³ + b·x² + c·x + d = 0, located between the stationary points and polished by a midpoint Newton
 /// iteration until the value of the monic polynomial is below DoubleTolerance, or for 51 steps.
 ///
-/// The tolerance is on the value, so a flat root comes back coarse: x³ = 0 gives about 7.5e-4. Three simple roots come in
-/// ascending order; a double root is given once and first. A NaN that arises on the way goes out as a root and is counted.
-/// A leading coefficient below DoubleTolerance, as given, makes the equation quadratic.
+/// The tolerance is on the value, so a flat root comes back coarse: x³ = 0 gives about 7.5e-4. Three simple roots come
+/// in ascending order; a double root is given once and first. A NaN that arises on the way goes out as a root and is
+/// counted. A leading coefficient below DoubleTolerance, as given, makes the equation quadratic.
 ///
-/// @param x1, x2, x3  receive the roots found, the others stay untouched; none may be null. For a quadratic equation `x1` and
-///                    `x2` follow the rules of SolveQuadraticEquation, and `x3` stays untouched
+/// @param x1, x2, x3  receive the roots found, the others stay untouched; none may be null. For a quadratic equation
+///                    `x1` and `x2` follow the rules of SolveQuadraticEquation, and `x3` stays untouched
 /// @return the number of roots: 1, 2 or 3; that of SolveQuadraticEquation for a quadratic equation
 QORMATH_EXPORT int SolveCubicEquation(double a, double b, double c, double d, double* x1, double* x2, double* x3);
 

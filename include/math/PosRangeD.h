@@ -99,11 +99,11 @@ struct QORMATH_EXPORT PosRangeD
     /// contains every position.
     bool IsContain(const double& pos) const;
 
-    /// Tells whether both ends of `other` lie in this range, an end that is shared counting as inside when the other end
-    /// lies inside.
+    /// Tells whether both ends of `other` lie in this range, an end that is shared counting as inside when the other
+    /// end lies inside.
     ///
-    /// False if either is invalid; true if the two are equal or this one is whole. Only the ends are looked at, never the
-    /// way between them: (1, 5) contains the wrapping range (4, 2), and the whole range (3, 3).
+    /// False if either is invalid; true if the two are equal or this one is whole. Only the ends are looked at, never
+    /// the way between them: (1, 5) contains the wrapping range (4, 2), and the whole range (3, 3).
     bool IsContain(const PosRangeD& other) const;
 
     /// Tells whether a position is near an end of the range. An invalid or whole range has no ends.
@@ -141,33 +141,34 @@ struct QORMATH_EXPORT PosRangeD
 
     /// The range cut at a position, pieces in walking order.
     ///
-    /// A position outside the range, or at an end of it, leaves it in one piece; an invalid range gives none. A whole range
-    /// is cut once more, into the part up to `pos` and the part from there. `pos` is not wrapped.
+    /// A position outside the range, or at an end of it, leaves it in one piece; an invalid range gives none. A whole
+    /// range is cut once more, into the part up to `pos` and the part from there. `pos` is not wrapped.
     std::vector<PosRangeD> Splite(const double& pos);
 
     /// @name Set algebra
     ///
-    /// The operators do not know the segment count. Where a range wraps they unroll it: with L the least whole number at or
-    /// above every end in play, plus 1, its end is raised by L; the work is done on forward ranges, and ends above L come
-    /// back down by L. An end that lands on L itself stays there: (3, 0) - (1, 2) gives (3, 4). Whole ranges are taken out
-    /// first; whatever is then neither forward nor whole is treated as wrapping. The lists are neither sorted nor
-    /// merged.
+    /// The operators do not know the segment count. Where a range wraps they unroll it: with L the least whole number
+    /// at or above every end in play, plus 1, its end is raised by L; the work is done on forward ranges, and ends
+    /// above L come back down by L. An end that lands on L itself stays there: (3, 0) - (1, 2) gives (3, 4). Whole
+    /// ranges are taken out first; whatever is then neither forward nor whole is treated as wrapping. The lists are
+    /// neither sorted nor merged.
     /// @{
 
     /// The part of this range that `other` does not cover.
     ///
-    /// Whole minus a range is what completes it (Complementary()); anything minus whole is empty. Validity is not tested.
+    /// Whole minus a range is what completes it (Complementary()); anything minus whole is empty. Validity is not
+    /// tested.
     std::vector<PosRangeD> operator-(const PosRangeD& other) const;
 
     /// The union: one range where the two overlap, else both.
     ///
-    /// An invalid operand adds nothing, a whole one swallows the other; two that make up the loop give a whole range. Two
-    /// corners are lopsided: of two forward ranges that touch, they merge only if `other` ends where this one starts; and a
-    /// forward range in the part of a wrapping one past the seam stays a range of its own.
+    /// An invalid operand adds nothing, a whole one swallows the other; two that make up the loop give a whole range.
+    /// Two corners are lopsided: of two forward ranges that touch, they merge only if `other` ends where this one
+    /// starts; and a forward range in the part of a wrapping one past the seam stays a range of its own.
     std::vector<PosRangeD> operator+(const PosRangeD& other) const;
 
-    /// The intersection. Ranges that touch do not intersect. Where a forward and a wrapping range meet, the part before the
-    /// end of the wrapping one comes first.
+    /// The intersection. Ranges that touch do not intersect. Where a forward and a wrapping range meet, the part before
+    /// the end of the wrapping one comes first.
     std::vector<PosRangeD> operator*(const PosRangeD& other) const;
 
     /// @}

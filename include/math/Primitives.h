@@ -317,8 +317,8 @@ QORMATH_EXPORT bool IsPointInLine(const DPOINT2& point, const DPOINT2& a, const 
 /// Tells whether `point` lies on the bounded stretch from `a` to `b`.
 ///
 /// The distance from the unbounded line may be up to `tolerance`, and each end is widened by `tolerance` along the axis
-/// in which the stretch is longer (y for a tie). A stretch of zero length holds no point, not even its own end. Where the
-/// distance is NaN the coordinate of that axis decides alone.
+/// in which the stretch is longer (y for a tie). A stretch of zero length holds no point, not even its own end. Where
+/// the distance is NaN the coordinate of that axis decides alone.
 QORMATH_EXPORT bool IsPointInLine(const DPOINT2& point, const DPOINT2& a, const DPOINT2& b, const double& tolerance);
 
 /// Tells whether the foot of the perpendicular from `point` falls on the stretch from `a` to `b`, ends included.

@@ -21,8 +21,8 @@ namespace
 constexpr double QuarterPi = 0.7853981633974483;
 constexpr double ThreeQuartersPi = 2.356194490192345;
 
-/// A straight line in the frame of an ellipse: one coordinate is `slope` times the other plus `offset`. A flat line tells v
-/// by u, a steep one u by v, so that the slope is never above 1.
+/// A straight line in the frame of an ellipse: one coordinate is `slope` times the other plus `offset`. A flat line
+/// tells v by u, a steep one u by v, so that the slope is never above 1.
 struct FrameLine
 {
     bool isFlat;

@@ -8,8 +8,8 @@
 namespace math::detail
 {
 
-/// Tells whether a point of an ellipse lies on an arc of it, by its direction alone. Both ends of the arc are in, within
-/// DoubleTolerance of angle.
+/// Tells whether a point of an ellipse lies on an arc of it, by its direction alone. Both ends of the arc are in,
+/// within DoubleTolerance of angle.
 inline bool IsPointInEllipseSector(const DPOINT2& point, const DPOINT2& centre, double rotation, double startRadian,
                                    double extent, bool ccw)
 {

@@ -161,8 +161,8 @@ CubicRoots RootOfMonotone(const MonicCubic& cubic)
     return {1, {start}};
 }
 
-/// The roots on either side of the local maximum and the local minimum. A stationary point on the axis is a double root,
-/// given once and first.
+/// The roots on either side of the local maximum and the local minimum. A stationary point on the axis is a double
+/// root, given once and first.
 CubicRoots RootsAroundStationaryPoints(const MonicCubic& cubic, double discriminant)
 {
     const double root = std::sqrt(discriminant);

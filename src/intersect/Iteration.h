@@ -11,10 +11,10 @@ namespace math::detail
 
 /// Runs a search to its own end, or to the first state that it was in before.
 ///
-/// `advance` takes one step on a state made of doubles alone and tells whether the search goes on. A step depends on nothing
-/// but the state, so a state that comes again means a search that would never end; it is left there. A search that ends by
-/// itself is never touched. Nearly all do so within a few dozen steps: only then is it run again with a record of its
-/// states, compared bit by bit.
+/// `advance` takes one step on a state made of doubles alone and tells whether the search goes on. A step depends on
+/// nothing but the state, so a state that comes again means a search that would never end; it is left there. A search
+/// that ends by itself is never touched. Nearly all do so within a few dozen steps: only then is it run again with a
+/// record of its states, compared bit by bit.
 template <typename State, typename Advance>
 void RunUntilItRepeats(State& state, const Advance& advance)
 {

@@ -165,7 +165,8 @@ struct CrossingSearch
     }
 };
 
-/// Halves a range in which the height difference changes its sign. A range no wider than the tolerance leaves the origin.
+/// Halves a range in which the height difference changes its sign. A range no wider than the tolerance leaves the
+/// origin.
 DPOINT2 BisectArcCrossing(const EllipseQuarterArc& arcA, const EllipseQuarterArc& arcB, double lowX, double highX)
 {
     CrossingSearch search{};
@@ -214,8 +215,8 @@ TwoPoints MeetInEnds(const ArcSpan& spanA, bool atLeft, bool atRight)
     return found;
 }
 
-/// The height difference has one sign at both ends: the arcs stay apart, touch where it turns, or cross on either side of
-/// that place.
+/// The height difference has one sign at both ends: the arcs stay apart, touch where it turns, or cross on either side
+/// of that place.
 TwoPoints MeetAroundTurn(const ArcPair& pair, double heightDifferenceAtLeft)
 {
     const double slopesAtLeft = pair.SlopeDifference(pair.spanA.left, pair.spanB.left);

@@ -5,8 +5,9 @@
 
 #include <array>
 
-/// How two ellipses meet: each is cut at its extreme points into four quarter arcs. Over a quarter arc y is a function of x,
-/// so a vertical meets it once, and two of them are compared by height and slope at the ends of their shared range.
+/// How two ellipses meet: each is cut at its extreme points into four quarter arcs. Over a quarter arc y is a function
+/// of x, so a vertical meets it once, and two of them are compared by height and slope at the ends of their shared
+/// range.
 namespace math::detail
 {
 

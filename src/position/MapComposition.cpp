@@ -48,8 +48,8 @@ int DoubledCount(int segmentCount)
         std::clamp<std::int64_t>(doubled, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
 }
 
-/// Writes a map over two laps of both polylines, so that the walk goes straight on from the first lap into the second on
-/// either side.
+/// Writes a map over two laps of both polylines, so that the walk goes straight on from the first lap into the second
+/// on either side.
 CPolyPosMap UnrollTwoLaps(const CPolyPosMap& map)
 {
     const bool sourceUp = map.IsIncrease(SourceSide);

@@ -22,8 +22,8 @@ void LiftColumn(JointList& joints, int side, int segmentCount)
     }
 }
 
-/// Lifts the walk with the higher values past the seam where the column would run backwards: the later one upward, the earlier
-/// one downward.
+/// Lifts the walk with the higher values past the seam where the column would run backwards: the later one upward, the
+/// earlier one downward.
 void LiftOverSeam(JointList& earlier, JointList& later, int side, bool upward, int segmentCount)
 {
     if (upward)

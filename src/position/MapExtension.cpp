@@ -30,8 +30,8 @@ CPolyPosMap CollapseAdded(int addedCount, double position, int otherCount)
     return CPolyPosMapUtilies::GeneratePosMapFromPosRange2Pos(added, position, addedCount, otherCount);
 }
 
-/// From what is left of `outer` after `removed` has gone to the polyline, with a jump over what has gone; an empty map if it
-/// was taken out of the middle.
+/// From what is left of `outer` after `removed` has gone to the polyline, with a jump over what has gone; an empty map
+/// if it was taken out of the middle.
 CPolyPosMap GeneratePosMapWithoutRange(const PosRangeD& outer, const PosRangeD& removed, int segmentCount)
 {
     const std::vector<PosRangeD> rest = outer - removed;

@@ -61,7 +61,8 @@ JointList JointsOfOneGroup(const RangeGroup& group, int dstSegmentCount)
     return {{0.0, range.start}, {sourceEnd, destinationEnd}};
 }
 
-/// Where the segments without an image collapse to: the start of what follows, at the very end the end of what came before.
+/// Where the segments without an image collapse to: the start of what follows, at the very end the end of what came
+/// before.
 double CollapsedPosition(const std::vector<RangeGroup>& groups, std::size_t index)
 {
     return index + 1 == groups.size() ? groups[index - 1].range.end : groups[index + 1].range.start;

@@ -19,8 +19,8 @@ using detail::SourceSide;
 namespace
 {
 
-/// Laps to take off so that `position` comes into the first lap. At a negative multiple of the count it is one lap more than
-/// needed, which brings the position to the count instead of 0.
+/// Laps to take off so that `position` comes into the first lap. At a negative multiple of the count it is one lap more
+/// than needed, which brings the position to the count instead of 0.
 std::int64_t LapsToTakeOff(double position, int segmentCount)
 {
     if (segmentCount == 0)
@@ -54,8 +54,8 @@ std::int64_t NodeAtOrPast(double position)
     return detail::IsZero(PosRangeD::GetRadio(position)) ? node : node + 1;
 }
 
-/// Gives one column a joint at every whole position of a lap. On a map over the seam the lap begins with what the upper end
-/// leaves past the count.
+/// Gives one column a joint at every whole position of a lap. On a map over the seam the lap begins with what the upper
+/// end leaves past the count.
 void FillColumn(JointList& joints, int side, int segmentCount)
 {
     const std::int64_t lastNode = NodeAtOrPast(ColumnValue(joints.back(), side));

@@ -29,8 +29,8 @@ bool IsBelow(double value, double limit)
     return AreEqual(value, limit) || !(value >= limit);
 }
 
-/// Three joints in a row. On a closed map the last joint and the first are one place, and the corner between them is the
-/// first.
+/// Three joints in a row. On a closed map the last joint and the first are one place, and the corner between them is
+/// the first.
 struct Corner
 {
     Joint before;

@@ -15,8 +15,8 @@ namespace math::detail
 namespace
 {
 
-/// The straight line through (fromX, fromY) and (toX, toY) at x. The order of the operations is part of the contract: equal
-/// input gives equal bits wherever a map is interpolated.
+/// The straight line through (fromX, fromY) and (toX, toY) at x. The order of the operations is part of the contract:
+/// equal input gives equal bits wherever a map is interpolated.
 double Interpolate(double x, double fromX, double fromY, double toX, double toY)
 {
     return ((x - fromX) / (toX - fromX)) * (toY - fromY) + fromY;

@@ -40,15 +40,15 @@ inline int OtherSide(int side)
 /// Number of whole laps of `segmentCount` in a position at or above 0, negative below; the count must not be 0.
 std::int64_t WholeLaps(double position, int segmentCount);
 
-/// Index of the last joint at or before `position` in walking order, or -1; every joint is looked at, so that the answer
-/// holds on a list in neither order too.
+/// Index of the last joint at or before `position` in walking order, or -1; every joint is looked at, so that the
+/// answer holds on a list in neither order too.
 int FindLeftIndex(const JointList& joints, double position, int side);
 
 /// Index of the first joint at or after `position` in walking order, or -1.
 int FindRightIndex(const JointList& joints, double position, int side);
 
-/// Images of a raw source position: those of all joints near it, else one by interpolation, else none. An empty list hands
-/// the position through.
+/// Images of a raw source position: those of all joints near it, else one by interpolation, else none. An empty list
+/// hands the position through.
 std::vector<double> Evaluate(const JointList& joints, double position);
 
 /// Gives the joint at a raw position of a side, adding it if there is none. The list is left alone and the answer is

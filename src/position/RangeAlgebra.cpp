@@ -133,7 +133,8 @@ Ranges WrappingMinusForward(const PosRangeD& wrapping, const PosRangeD& forward,
     return Fold(ForwardDifference(left.front(), lapOn), length);
 }
 
-/// The part of a forward range that a wrapping one leaves: bitten by what lies past the seam, then by what lies before it.
+/// The part of a forward range that a wrapping one leaves: bitten by what lies past the seam, then by what lies before
+/// it.
 Ranges ForwardMinusWrapping(const PosRangeD& forward, const PosRangeD& wrapping, double length)
 {
     const Ranges left = ForwardDifference(forward, PosRangeD(wrapping.start - length, wrapping.end));

@@ -58,8 +58,8 @@ DPOINT2 AtParameter(const gp_Lin2d& line, double parameter)
 
 DPOINT2 AtParameter(const gp_Circ2d& circle, double parameter)
 {
-    const gp_Dir2d& x = circle.XAxis().Direction();
-    const gp_Dir2d& y = circle.YAxis().Direction();
+    const gp_Dir2d x = circle.XAxis().Direction();
+    const gp_Dir2d y = circle.YAxis().Direction();
     return At(circle.Location().X() + circle.Radius() * (std::cos(parameter) * x.X() + std::sin(parameter) * y.X()),
               circle.Location().Y() + circle.Radius() * (std::cos(parameter) * x.Y() + std::sin(parameter) * y.Y()));
 }

@@ -40,7 +40,7 @@ gp_Circ2d ThroughDirections(double first, double second, double third)
 
 ::testing::AssertionResult HasAxis(const gp_Circ2d& circle, double x, double y, bool direct)
 {
-    const gp_Dir2d& axis = circle.XAxis().Direction();
+    const gp_Dir2d axis = circle.XAxis().Direction();
     if (axis.X() == x && axis.Y() == y && circle.IsDirect() == direct)
     {
         return ::testing::AssertionSuccess();
