@@ -30,17 +30,16 @@ std::vector<std::string_view> Split(std::string_view text, char separator)
 std::vector<double> ParseNumbers(const std::string& option, const std::string& text, char separator, std::size_t count,
                                  const std::string& form)
 {
+    const std::vector<std::string_view> parts = Split(text, separator);
     std::vector<double> numbers;
-    for (const std::string_view part : Split(text, separator))
+    for (const std::string_view part : parts)
     {
-        const std::optional<double> number = ParseNumber(part);
-        if (!number)
+        if (const std::optional<double> number = ParseNumber(part))
         {
-            throw Problem(option + " wants " + form + ", not " + Quoted(text));
+            numbers.push_back(*number);
         }
-        numbers.push_back(*number);
     }
-    if (numbers.size() != count)
+    if (parts.size() != count || numbers.size() != count)
     {
         throw Problem(option + " wants " + form + ", not " + Quoted(text));
     }

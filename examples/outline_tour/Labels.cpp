@@ -83,7 +83,7 @@ DPOINT2 LabelPlacer::Place(const DPOINT2& anchor, const std::string& text, doubl
     const double height = fontSize;
     DRECT best;
     double leastCost = std::numeric_limits<double>::infinity();
-    for (const double distance : {5.0, 8.0, 12.0, 17.0, 23.0})
+    for (const double distance : {7.0, 10.0, 14.0, 19.0, 25.0})
     {
         constexpr int directions = 16;
         for (int i = 0; i < directions; ++i)

@@ -67,11 +67,8 @@ std::string Joined(const std::vector<std::string>& parts)
 
 std::string List(const std::vector<int>& numbers)
 {
-    std::vector<std::string> parts;
-    for (const int number : numbers)
-    {
-        parts.push_back(std::to_string(number));
-    }
+    std::vector<std::string> parts(numbers.size());
+    std::transform(numbers.begin(), numbers.end(), parts.begin(), [](int number) { return std::to_string(number); });
     return Joined(parts);
 }
 
