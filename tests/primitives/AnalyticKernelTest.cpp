@@ -177,6 +177,10 @@ TEST(AnalyticIntersection, IsNotDoneAtFirst)
 {
     const IntAna2d_AnaIntersection intersection;
     EXPECT_FALSE(intersection.IsDone());
+    EXPECT_FALSE(intersection.IsParallel());
+    EXPECT_FALSE(intersection.IsIdentical());
+    EXPECT_FALSE(intersection.IsEmpty());
+    EXPECT_EQ(intersection.PointCount(), 0);
     static_assert(!std::is_polymorphic_v<IntAna2d_AnaIntersection>, "a plain record");
     // Not being done comes before the number asked for.
     for (const int n : {1, 0, -1, 2, 5})
@@ -344,6 +348,13 @@ TEST(IntersectionOfLines, OfLevelAndUprightLinesIsExact)
     intersection.Perform(Line(1, -2, 3, 4), Line(20, 6, 1, 0));
     EXPECT_TRUE(Near(PointOf(intersection, 1), At(7, 6), 1e-14));
     EXPECT_TRUE(Near(ParametersOf(intersection, 1), At(10, -13), 1e-14));
+    // An upright and a slanting line: (1 + 3t, 4t - 2) at the abscissa 7.
+    intersection.Perform(Line(1, -2, 3, 4), Line(7, 20, 0, 1));
+    EXPECT_TRUE(Near(PointOf(intersection, 1), At(7, 6), 1e-14));
+    EXPECT_TRUE(Near(ParametersOf(intersection, 1), At(10, -14), 1e-14));
+    intersection.Perform(Line(7, 20, 0, 1), Line(1, -2, 3, 4));
+    EXPECT_TRUE(Near(PointOf(intersection, 1), At(7, 6), 1e-14));
+    EXPECT_TRUE(Near(ParametersOf(intersection, 1), At(-14, 10), 1e-14));
     // Both diagonals, where the coefficients tie.
     intersection.Perform(Line(0, 0, 1, 1), Line(4, 0, -1, 1));
     EXPECT_TRUE(Near(PointOf(intersection, 1), At(2, 2), 1e-15));
@@ -384,6 +395,33 @@ TEST(IntersectionOfLines, CountsAsParallelUpToTheToleranceAndIncludingIt)
     EXPECT_EQ(Outcome(IntAna2d_AnaIntersection(Line(0, 0, 1, 0), Line(0, 1, 1, -1e-10))), "parallel empty 0");
     EXPECT_EQ(Outcome(IntAna2d_AnaIntersection(Line(0, 0, 1, 0), Line(0, 1e6, 1, 1e-9))), "parallel empty 0");
     EXPECT_EQ(PointOf(IntAna2d_AnaIntersection(Line(0, 0, 1, 0), Line(0, 1, 1, -0x1p-20)), 1), At(0x1p20, 0));
+}
+
+TEST(IntersectionOfLines, MeasuresParallelsAgainstTheGreatestCoefficient)
+{
+    // Along (3, 4)/5 the greatest coefficient is 0.8, so an angle of 0.7e-9 counts 0.875e-9 and one of 0.9e-9 counts
+    // 1.125e-9. Any other pivot would put both on one side. Turning the second line either way makes the first or the
+    // second line lead, mirroring at the diagonal makes it the coefficient of x or of y.
+    const double steep = std::atan2(4.0, 3.0);
+    const double flat = std::atan2(3.0, 4.0);
+    for (const double radian : {steep, flat, -steep, -flat})
+    {
+        for (const double side : {1.0, -1.0})
+        {
+            SCOPED_TRACE(Digits(radian) + ", turned by " + Digits(side));
+            const auto outcome = [&](double angle) {
+                // The difference is added to the direction, since an angle would lose its digits.
+                const double c = std::cos(radian);
+                const double s = std::sin(radian);
+                const double turn = side * angle;
+                return Outcome(IntAna2d_AnaIntersection(Line(0, 0, c, s), Line(0, 0, c - turn * s, s + turn * c)));
+            };
+            EXPECT_EQ(outcome(0.7e-9), "parallel identical 0");
+            EXPECT_EQ(outcome(0.79e-9), "parallel identical 0");
+            EXPECT_EQ(outcome(0.81e-9), "1");
+            EXPECT_EQ(outcome(0.9e-9), "1");
+        }
+    }
 }
 
 TEST(IntersectionOfLines, CountsAsIdenticalUpToTheToleranceAndIncludingIt)

@@ -144,6 +144,14 @@ TEST(PointInLine, IsLimitedAlongTheLongerExtentAloneAndUprightForATie)
     EXPECT_TRUE(IsPointInLine(At(-2.3, 2.6), At(0, 0), At(-Next(2.0), 2), 0.5));
 }
 
+TEST(PointInLine, IsLimitedAlongTheLongerExtentFarFromTheOriginToo)
+{
+    EXPECT_FALSE(IsPointInLine(At(100, 5), At(100, 0), At(100, 1)));
+    EXPECT_FALSE(IsPointInLine(At(-100, 5), At(-100, 0), At(-100, 1)));
+    EXPECT_FALSE(IsPointInLine(At(5, 100), At(0, 100), At(1, 100)));
+    EXPECT_FALSE(IsPointInLine(At(5, -100), At(0, -100), At(1, -100)));
+}
+
 TEST(PointInLine, DoesNotExistOnAStretchOfNoLength)
 {
     EXPECT_FALSE(IsPointInLine(At(0, 0), At(0, 0), At(0, 0)));
@@ -343,6 +351,9 @@ TEST(PointInArc, MayCoincideWithItsEnd)
     EXPECT_FALSE(InUnitArc(At(1, 1e-9), -1.0, 1.0, true, 0.0));
     EXPECT_TRUE(InUnitArc(At(1, -BelowTolerance), 1.0, 1.0, false, 0.0));
     EXPECT_FALSE(InUnitArc(At(1, -1e-9), 1.0, 1.0, false, 0.0));
+    EXPECT_TRUE(InUnitArc(At(1, BelowTolerance), -2.0, 2.0, true, 0.0));
+    EXPECT_FALSE(InUnitArc(At(1, 1e-9), -2.0, 2.0, true, 0.0));
+    EXPECT_TRUE(InUnitArc(At(1, -BelowTolerance), 0.5, 0.5, false, 0.0));
     EXPECT_TRUE(InUnitArc(OnUnitCircle(3.0 + 5e-10), 2.0, 1.0, true, 0.0));
     EXPECT_FALSE(InUnitArc(OnUnitCircle(3.0 + 2e-9), 2.0, 1.0, true, 0.0));
     // About (1, 2) with radius 5, down to the direction of (3, 4).

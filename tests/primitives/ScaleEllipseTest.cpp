@@ -269,6 +269,24 @@ TEST(ScaledEllipse, HasTheAxesOfTheScaledConicNextToTheAxesToo)
     }
 }
 
+TEST(ScaledEllipse, KeepsARotationNextToTheAxes)
+{
+    // The sine that gives the new rotation is then next to 1 or -1, and often beyond it by rounding. Half of its digits
+    // are lost, the more of them the nearer the axis.
+    Random random(59);
+    for (int i = 0; i < 3000; ++i)
+    {
+        const double slant = (random.Coin() ? 1.0 : -1.0) * random.Size(1.1e-6, 1e-2);
+        const Ellipse ellipse{random.Number(2.0, 4.0), random.Number(0.5, 1.0), (random.Coin() ? Pi : HalfPi) + slant};
+        const double factor = random.Coin() ? random.Number(1.1, 1.5) : random.Number(0.6, 0.9);
+        SCOPED_TRACE(Text(ellipse) + " by " + Digits(factor));
+        const Ellipse expected = AxesOf(ScaledConic(ConicOf(ellipse), factor, 1.0));
+        const Ellipse scaled = Scaled(ellipse, factor);
+        EXPECT_TRUE(scaled.rotation >= 0.0 && scaled.rotation < Pi);
+        EXPECT_TRUE(NearDirection(scaled.rotation, expected.rotation, Pi, 3e-7 / std::abs(slant)));
+    }
+}
+
 TEST(ScaledEllipse, ReturnsUnderTheInverseFactor)
 {
     Random random(56);
