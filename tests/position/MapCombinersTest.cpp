@@ -142,7 +142,8 @@ TEST(CombineWithSameDestination, ADownwardFirstSourceIsWalkedUpwardAndTheSecondT
 
 TEST(CombineWithSameDestination, AWalkThatComesBackAlongOneStraightLineIsAllThatIsLeft)
 {
-    // The second, turned and lifted by a lap, walks from (4, 6) back to (2, 4): every joint between the ends is straight.
+    // The second, turned and lifted by a lap, walks from (4, 6) back to (2, 4): every joint between the ends is
+    // straight.
     EXPECT_EQ(CombineDestination(TwoToFour({{2, 4}, {0, 2}}), TwoToFour({{2, 2}, {0, 0}})),
               Map({{0, 2}, {2, 4}}, 4, 4));
 }

@@ -8,8 +8,8 @@
 #include <utility>
 #include <vector>
 
-// What the tests of range algebra share: lists of ranges that compare bit for bit, and the numbers on either side of the
-// tolerance.
+// What the tests of range algebra share: lists of ranges that compare bit for bit, and the numbers on either side of
+// the tolerance.
 
 namespace math::test
 {

@@ -5,8 +5,8 @@
 #include <cmath>
 #include <vector>
 
-// The set algebra of ranges a second time, against which the library is compared bit for bit: one branch for one sentence,
-// nothing shared, nothing shortened. Ends that are no numbers are not served where a range is unrolled.
+// The set algebra of ranges a second time, against which the library is compared bit for bit: one branch for one
+// sentence, nothing shared, nothing shortened. Ends that are no numbers are not served where a range is unrolled.
 
 namespace math
 {
