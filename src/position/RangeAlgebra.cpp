@@ -159,20 +159,10 @@ std::vector<PosRangeD> PosRangeD::Splite(const double& pos)
     {
         return {};
     }
-    bool cuts = false;
-    if (end > start)
-    {
-        cuts = pos > start && pos < end;
-    }
-    else if (AreEqual(start, end))
-    {
-        cuts = !AreEqual(pos, start) && !AreEqual(pos, end);
-    }
-    else
-    {
-        cuts = pos > start || pos < end;
-    }
-    if (!cuts)
+    // A whole range contains every position, but is not cut at its own ends.
+    const bool isLoop = !(end > start) && AreEqual(start, end);
+    const bool isAtEnds = AreEqual(pos, start) || AreEqual(pos, end);
+    if (!IsContain(pos) || (isLoop && isAtEnds))
     {
         return {*this};
     }

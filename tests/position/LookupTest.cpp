@@ -435,3 +435,17 @@ TEST(PosMapIsOverRange, NoNumberIsOver)
     EXPECT_TRUE(OverSeam.IsOverRange(NaN, 1));
     EXPECT_TRUE(Map({{1, 2}}, 4, 4).IsOverRange(NaN, 1));
 }
+
+TEST(PosMapMultyDouble, KeepsTheFirstOfZerosOfEitherSignWhicheverWayTheyAreSorted)
+{
+    const CPolyPosMap down({{1, 3}, {2, 0.0}, {2, -0.0}}, 4, 4);
+    const CPolyPosMap up({{1, -3}, {2, 0.0}, {2, -0.0}}, 4, 4);
+    for (const CPolyPosMap& map : {down, up})
+    {
+        const std::vector<double> images = map.MultyDouble(2.0, false, false);
+        ASSERT_EQ(images.size(), 1U);
+        EXPECT_FALSE(std::signbit(images[0]));
+    }
+    const CPolyPosMap negativeFirst({{1, 3}, {2, -0.0}, {2, 0.0}}, 4, 4);
+    EXPECT_TRUE(std::signbit(negativeFirst.MultyDouble(2.0, false, false).front()));
+}
