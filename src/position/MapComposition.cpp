@@ -110,6 +110,15 @@ bool KeepsDirection(const CPolyPosMap& map)
     return map.IsIncrease(SourceSide) == map.IsIncrease(DestinationSide);
 }
 
+/// A map to work on. Of two maps that meet at a seam, the partner of the side that crosses is lengthened to two laps;
+/// where both cross, the second map alone.
+CPolyPosMap WorkingCopy(const CPolyPosMap& map, bool overTwoLaps)
+{
+    CPolyPosMap copy = overTwoLaps ? UnrollTwoLaps(map) : map;
+    copy.Unique(true);
+    return copy;
+}
+
 /// Composes two normal maps that both have joints.
 class Composition
 {
@@ -130,7 +139,7 @@ private:
     const CPolyPosMap& m_second;
     CPolyPosMap m_feeding; ///< the first map, unrolled if only the second one's source crosses the seam
     CPolyPosMap m_fed;     ///< the second map, unrolled if the first one's destination crosses the seam
-    bool m_sameWay = true;
+    bool m_sameWay;
     std::vector<double> m_keys; ///< places on the first source where the result may have a joint, ascending
     PreimageTable m_preimages;  ///< key: such a place; value: joints of the second source that it lands on
     ImageTable m_images;        ///< key: such a place; value: its images in the order in which they are walked
@@ -139,21 +148,10 @@ private:
 Composition::Composition(const CPolyPosMap& first, const CPolyPosMap& second)
     : m_first(first),
       m_second(second),
-      m_feeding(first),
-      m_fed(second)
+      m_feeding(WorkingCopy(first, !CrossesSeam(first, DestinationSide) && CrossesSeam(second, SourceSide))),
+      m_fed(WorkingCopy(second, CrossesSeam(first, DestinationSide))),
+      m_sameWay(KeepsDirection(m_feeding) == KeepsDirection(m_fed))
 {
-    // The side that must be lengthened is the partner of the side that crosses; with both crossing, one is enough.
-    if (CrossesSeam(first, DestinationSide))
-    {
-        m_fed = UnrollTwoLaps(second);
-    }
-    else if (CrossesSeam(second, SourceSide))
-    {
-        m_feeding = UnrollTwoLaps(first);
-    }
-    m_feeding.Unique(true);
-    m_fed.Unique(true);
-    m_sameWay = KeepsDirection(m_feeding) == KeepsDirection(m_fed);
 }
 
 void Composition::CollectKeys()
