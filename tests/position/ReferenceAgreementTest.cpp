@@ -250,6 +250,40 @@ TEST(ReferenceAgreement, OfComposition)
     EXPECT_GT(bothCross, Maps / 20);
 }
 
+// Steps below the tolerance may go against the walk, and a straight chain of them may go as far as it likes. So a column
+// may run up in a sawtooth whose teeth overlap, and its joints are not in the order of their images.
+TEST(ReferenceAgreement, OfCompositionsWithManyJointsOutOfOrder)
+{
+    const int count = 256;
+    for (int teeth : {10, 18, 33, 50, 63})
+    {
+        Pairs rising;
+        Pairs falling;
+        for (int tooth = 0; tooth < teeth; ++tooth)
+        {
+            for (int step = 0; step <= 10; ++step)
+            {
+                const double source = 4 * tooth + 0.125 * step;
+                const double height = 5e-9 * tooth - 8.5e-10 * step;
+                rising.emplace_back(source, 1 + height);
+                falling.emplace_back(source, 3 - height);
+            }
+        }
+        const CPolyPosMap whole = Map({{0, 0}, {count, count}}, count, count);
+        for (const Pairs& pairs : {rising, falling})
+        {
+            const CPolyPosMap sawtooth = Map(pairs, count, 4);
+            ASSERT_FALSE(sawtooth.IsInvalid());
+            reference::Trace trace;
+            const reference::RefMap expected =
+                reference::Compose(reference::From(whole), reference::From(sawtooth), &trace);
+            EXPECT_EQ(trace.imageCount, 2U * static_cast<std::size_t>(teeth));
+            EXPECT_TRUE(reference::IsInvalid(expected)) << "the joints came out in the order of the source";
+            EXPECT_EQ(whole * sawtooth, reference::To(expected)) << teeth << " teeth";
+        }
+    }
+}
+
 TEST(ReferenceAgreement, OfInverseTests)
 {
     RandomMaps random(12);
