@@ -1,7 +1,7 @@
 #include "Carry.h"
 
-#include "Problem.h"
-#include "Text.h"
+#include "common/Problem.h"
+#include "common/Text.h"
 
 #include "math/CPolyPosMapUtilies.h"
 
@@ -9,7 +9,7 @@
 #include <cmath>
 #include <iterator>
 
-namespace tour
+namespace example::tour
 {
 
 namespace
@@ -126,4 +126,4 @@ Carrying CarryPositions(const CPolyline& outline, const PosRangeD& cut, const Re
     return carrying;
 }
 
-} // namespace tour
+} // namespace example::tour

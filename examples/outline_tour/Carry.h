@@ -10,7 +10,7 @@
 #include <optional>
 #include <vector>
 
-namespace tour
+namespace example::tour
 {
 
 /// One image of a position of the piece on the rebuilt outline.
@@ -55,4 +55,4 @@ math::PosRangeD ChooseCut(const std::optional<math::PosRangeD>& wanted, const ma
 /// Cuts the piece and carries evenly spaced positions of it to the rebuilt outline.
 Carrying CarryPositions(const math::CPolyline& outline, const math::PosRangeD& cut, const Rebuild& rebuild);
 
-} // namespace tour
+} // namespace example::tour

@@ -1,13 +1,14 @@
 #include "CommandLine.h"
 
 #include "Limits.h"
-#include "Problem.h"
-#include "Text.h"
+
+#include "common/Problem.h"
+#include "common/Text.h"
 
 #include <cmath>
 #include <string_view>
 
-namespace tour
+namespace example::tour
 {
 
 namespace
@@ -160,4 +161,4 @@ Options ParseCommandLine(const std::vector<std::string>& arguments)
     return options;
 }
 
-} // namespace tour
+} // namespace example::tour

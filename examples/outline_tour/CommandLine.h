@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-namespace tour
+namespace example::tour
 {
 
 /// What the user asked for.
@@ -28,4 +28,4 @@ std::string Usage();
 /// @throw Problem for anything that is not understood
 Options ParseCommandLine(const std::vector<std::string>& arguments);
 
-} // namespace tour
+} // namespace example::tour

@@ -10,7 +10,7 @@
 #include <set>
 #include <tuple>
 
-namespace tour
+namespace example::tour
 {
 
 namespace
@@ -189,4 +189,4 @@ std::string CrossingName(std::size_t index)
     return name;
 }
 
-} // namespace tour
+} // namespace example::tour

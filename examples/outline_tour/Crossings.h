@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace tour
+namespace example::tour
 {
 
 /// An unbounded straight line. Its direction only tells in which order crossings are listed.
@@ -49,4 +49,4 @@ std::vector<Crossing> CrossingsOf(const Beeline& beeline, const std::vector<math
 /// The letters by which the table and the picture call a crossing: A to Z, AA, AB and so on.
 std::string CrossingName(std::size_t index);
 
-} // namespace tour
+} // namespace example::tour

@@ -3,8 +3,9 @@
 #include "DxfFilter.h"
 #include "Limits.h"
 #include "Outline.h"
-#include "Problem.h"
-#include "Text.h"
+
+#include "common/Problem.h"
+#include "common/Text.h"
 
 #include <dl_creationadapter.h>
 #include <dl_dxf.h>
@@ -14,7 +15,7 @@
 #include <fstream>
 #include <sstream>
 
-namespace tour
+namespace example::tour
 {
 
 namespace
@@ -220,4 +221,4 @@ Drawing ReadDrawing(const std::string& path)
     }
 }
 
-} // namespace tour
+} // namespace example::tour

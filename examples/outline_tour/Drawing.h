@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-namespace tour
+namespace example::tour
 {
 
 /// What the tour reads from a DXF file.
@@ -26,4 +26,4 @@ struct Drawing
 /// @throw Problem if the file can't be read, isn't sound, or has no polylines
 Drawing ReadDrawing(const std::string& path);
 
-} // namespace tour
+} // namespace example::tour

@@ -2,15 +2,16 @@
 
 #include "DxfGroups.h"
 #include "Limits.h"
-#include "Problem.h"
-#include "Text.h"
+
+#include "common/Problem.h"
+#include "common/Text.h"
 
 #include <cmath>
 #include <iterator>
 #include <optional>
 #include <vector>
 
-namespace tour
+namespace example::tour
 {
 
 namespace
@@ -330,4 +331,4 @@ FilteredDxf FilterDxf(const std::string& text)
     return result;
 }
 
-} // namespace tour
+} // namespace example::tour

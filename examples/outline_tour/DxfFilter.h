@@ -4,7 +4,7 @@
 #include <map>
 #include <string>
 
-namespace tour
+namespace example::tour
 {
 
 /// A DXF text brought down to what the tour reads: the plane polylines of model space, checked.
@@ -26,4 +26,4 @@ struct FilteredDxf
 /// @throw Problem that says what is wrong, and in which line
 FilteredDxf FilterDxf(const std::string& text);
 
-} // namespace tour
+} // namespace example::tour

@@ -1,9 +1,9 @@
 #include "DxfGroups.h"
 
-#include "Problem.h"
-#include "Text.h"
+#include "common/Problem.h"
+#include "common/Text.h"
 
-namespace tour
+namespace example::tour
 {
 
 namespace
@@ -103,4 +103,4 @@ std::vector<DxfGroup> SplitIntoGroups(std::string_view text)
     throw Problem(isFirst ? "this is no DXF file" : "the drawing ends too early, its end mark is missing");
 }
 
-} // namespace tour
+} // namespace example::tour

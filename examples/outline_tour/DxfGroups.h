@@ -5,7 +5,7 @@
 #include <string_view>
 #include <vector>
 
-namespace tour
+namespace example::tour
 {
 
 /// One pair of lines of a DXF file: what a value means, and the value.
@@ -39,4 +39,4 @@ enum DxfCode : int
 /// @throw Problem if the text is no DXF, or ends before its end mark
 std::vector<DxfGroup> SplitIntoGroups(std::string_view text);
 
-} // namespace tour
+} // namespace example::tour

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-namespace tour
+namespace example::tour
 {
 
 namespace
@@ -104,4 +104,4 @@ DPOINT2 LabelPlacer::Place(const DPOINT2& anchor, const std::string& text, doubl
     return {best.x + best.width / 2, best.y + best.height / 2};
 }
 
-} // namespace tour
+} // namespace example::tour

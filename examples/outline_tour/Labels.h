@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-namespace tour
+namespace example::tour
 {
 
 /// Finds room for short labels beside the points they belong to, away from marks, other labels and, where it can be
@@ -37,4 +37,4 @@ private:
     std::vector<math::DPOINT2> m_linePoints;
 };
 
-} // namespace tour
+} // namespace example::tour

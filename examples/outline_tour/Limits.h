@@ -2,7 +2,7 @@
 
 #include <cstddef>
 
-namespace tour
+namespace example::tour
 {
 
 /// What the tour serves. The library compares lengths with an absolute tolerance of 1e-9; far beyond these sizes the
@@ -20,4 +20,4 @@ inline constexpr double GreatestDegrees = 1e6;
 inline constexpr std::size_t GreatestSegmentCount = 20000; ///< in one drawing
 inline constexpr std::size_t GreatestFileSize = 32u << 20; ///< bytes
 
-} // namespace tour
+} // namespace example::tour

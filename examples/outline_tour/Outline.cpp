@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace tour
+namespace example::tour
 {
 
 namespace
@@ -119,4 +119,4 @@ OutlineFacts FactsOf(const math::CPolyline& outline)
     return facts;
 }
 
-} // namespace tour
+} // namespace example::tour

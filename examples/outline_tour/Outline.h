@@ -6,7 +6,7 @@
 #include <optional>
 #include <vector>
 
-namespace tour
+namespace example::tour
 {
 
 /// A segment in centre form.
@@ -59,4 +59,4 @@ struct OutlineFacts
 
 OutlineFacts FactsOf(const math::CPolyline& outline);
 
-} // namespace tour
+} // namespace example::tour

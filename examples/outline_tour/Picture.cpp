@@ -2,17 +2,19 @@
 
 #include "Labels.h"
 #include "Outline.h"
+#include "OutlinePath.h"
 #include "PictureLayout.h"
 #include "PictureStyle.h"
-#include "Svg.h"
-#include "Text.h"
+
+#include "common/Svg.h"
+#include "common/Text.h"
 
 #include <algorithm>
 #include <cmath>
 #include <optional>
 #include <utility>
 
-namespace tour
+namespace example::tour
 {
 
 namespace
@@ -384,4 +386,4 @@ std::string DrawPicture(const Tour& tour)
     return Picture(tour).Draw();
 }
 
-} // namespace tour
+} // namespace example::tour

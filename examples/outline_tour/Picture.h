@@ -4,11 +4,11 @@
 
 #include <string>
 
-namespace tour
+namespace example::tour
 {
 
 /// Draws the tour as an SVG picture: on the left the outlines with the piece and the crossings, on the right the rebuilt
 /// outline with the images, and lines that join positions and images.
 std::string DrawPicture(const Tour& tour);
 
-} // namespace tour
+} // namespace example::tour

@@ -4,7 +4,7 @@
 #include <cmath>
 #include <limits>
 
-namespace tour
+namespace example::tour
 {
 
 namespace
@@ -71,4 +71,4 @@ std::optional<std::pair<math::DPOINT2, math::DPOINT2>> ClipLine(const math::DPOI
     return std::make_pair(at(enter), at(leave));
 }
 
-} // namespace tour
+} // namespace example::tour

@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Svg.h"
+#include "common/Svg.h"
 
 #include <optional>
 #include <utility>
 
-namespace tour
+namespace example::tour
 {
 
 /// The page of the picture, in pixels: two views of the same scale, side by side, the right one lower, so that the lines
@@ -31,4 +31,4 @@ std::optional<std::pair<math::DPOINT2, math::DPOINT2>> ClipLine(const math::DPOI
                                                                 const math::DPOINT2& direction,
                                                                 const math::DRECT& frame);
 
-} // namespace tour
+} // namespace example::tour

@@ -1,10 +1,12 @@
 #include "PictureStyle.h"
 
+#include "common/PictureStyle.h"
+
 #include <functional>
 #include <utility>
 #include <vector>
 
-namespace tour
+namespace example::tour
 {
 
 namespace
@@ -75,9 +77,7 @@ void DrawColumn(SvgPage& page, const std::vector<Entry>& entries, DPOINT2 at)
 
 std::string PictureStyle()
 {
-    return R"(.page { fill: #ffffff; }
-text { font-family: Helvetica, Arial, 'DejaVu Sans', sans-serif; font-size: 14px; fill: #222222; }
-.surface { fill: #f3f3f1; fill-rule: evenodd; }
+    return CommonStyle() + R"(.surface { fill: #f3f3f1; fill-rule: evenodd; }
 .outline { fill: none; stroke: #444444; stroke-width: 1.6; stroke-linejoin: round; }
 .piece { fill: none; stroke: #0072b2; stroke-width: 4.5; stroke-linejoin: round; stroke-linecap: round; }
 .join { stroke: #cc79a7; stroke-width: 1.3; }
@@ -93,15 +93,11 @@ text { font-family: Helvetica, Arial, 'DejaVu Sans', sans-serif; font-size: 14px
 .image { fill: #009e73; stroke: #ffffff; stroke-width: 1.2; }
 .crossing { fill: #d55e00; stroke: #ffffff; stroke-width: 1.2; }
 .stretch { stroke: #d55e00; stroke-width: 5; stroke-linecap: round; }
-.label, .note { paint-order: stroke; stroke: #ffffff; stroke-width: 3px; stroke-linejoin: round; }
-.label { font-size: 12px; text-anchor: middle; }
 .zero-label { fill: #000000; font-weight: bold; }
 .position-label, .lost-label { fill: #0072b2; font-weight: bold; }
 .image-label { fill: #00664b; font-weight: bold; }
 .crossing-label { fill: #b34e00; font-weight: bold; }
 .node-label { fill: #777777; }
-.title { font-size: 20px; font-weight: bold; }
-.caption { font-size: 15px; font-weight: bold; }
 )";
 }
 
@@ -111,4 +107,4 @@ void DrawPictureLegend(SvgPage& page, const DPOINT2& corner)
     DrawColumn(page, RightColumn(), {corner.x + 264, corner.y});
 }
 
-} // namespace tour
+} // namespace example::tour

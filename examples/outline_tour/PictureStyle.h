@@ -1,10 +1,10 @@
 #pragma once
 
-#include "Svg.h"
+#include "common/Svg.h"
 
 #include <string>
 
-namespace tour
+namespace example::tour
 {
 
 /// The style sheet of the picture. The colours are those of Okabe and Ito, which colour-blind people tell apart; marks
@@ -14,4 +14,4 @@ std::string PictureStyle();
 /// Explains marks and lines; `corner` is the beginning of the lowest line.
 void DrawPictureLegend(SvgPage& page, const math::DPOINT2& corner);
 
-} // namespace tour
+} // namespace example::tour

@@ -9,7 +9,7 @@
 #include <cmath>
 #include <optional>
 
-namespace tour
+namespace example::tour
 {
 
 namespace
@@ -176,4 +176,4 @@ Rebuild RebuildOf(const CPolyline& outline)
     return rebuild;
 }
 
-} // namespace tour
+} // namespace example::tour

@@ -5,7 +5,7 @@
 
 #include <vector>
 
-namespace tour
+namespace example::tour
 {
 
 /// An outline made anew from another, and the map that remembers how.
@@ -28,4 +28,4 @@ struct Rebuild
 /// open one keeps its zero, and its last quarter isn't known.
 Rebuild RebuildOf(const math::CPolyline& outline);
 
-} // namespace tour
+} // namespace example::tour

@@ -1,14 +1,14 @@
 #include "Report.h"
 
-#include "Table.h"
-#include "Text.h"
+#include "common/Table.h"
+#include "common/Text.h"
 
 #include <algorithm>
 #include <string>
 #include <utility>
 #include <vector>
 
-namespace tour
+namespace example::tour
 {
 
 namespace
@@ -263,4 +263,4 @@ void PrintReport(const Tour& tour, std::ostream& out)
     PrintCrossings(tour, out);
 }
 
-} // namespace tour
+} // namespace example::tour

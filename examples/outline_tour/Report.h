@@ -7,7 +7,7 @@
 
 #include <ostream>
 
-namespace tour
+namespace example::tour
 {
 
 /// All the tour found, as the report and the picture want it.
@@ -23,4 +23,4 @@ struct Tour
 /// Prints the tables.
 void PrintReport(const Tour& tour, std::ostream& out);
 
-} // namespace tour
+} // namespace example::tour

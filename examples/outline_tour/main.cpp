@@ -1,20 +1,20 @@
 // A tour of the library with a real drawing: outlines, positions carried through maps, a beeline, a picture.
 
 #include "CommandLine.h"
-#include "FileWriter.h"
 #include "Picture.h"
-#include "Problem.h"
 #include "Report.h"
 
-#include <Standard_Failure.hxx>
+#include "common/FileWriter.h"
+#include "common/Program.h"
 
-#include <exception>
 #include <iostream>
 #include <string>
 #include <vector>
 
 namespace
 {
+
+namespace tour = example::tour;
 
 tour::Tour MakeTour(const tour::Options& options)
 {
@@ -39,37 +39,16 @@ void Run(const std::vector<std::string>& arguments)
     else
     {
         const tour::Tour tour = MakeTour(options);
-        tour::ReplaceFile(options.picture, tour::DrawPicture(tour));
+        example::ReplaceFile(options.picture, tour::DrawPicture(tour));
         tour::PrintReport(tour, std::cout);
         std::cout << "\nPicture: " << options.picture << "\n";
     }
-    if (!std::cout.flush())
-    {
-        throw tour::Problem("the report can't be written to standard output");
-    }
-}
-
-int Fail(const std::string& what)
-{
-    std::cerr << "outline_tour: " << what << "\n";
-    return 1;
+    example::FlushReport();
 }
 
 } // namespace
 
 int main(int argc, char** argv)
 {
-    try
-    {
-        Run(std::vector<std::string>(argv + (argc > 0 ? 1 : 0), argv + argc));
-        return 0;
-    }
-    catch (const std::exception& problem)
-    {
-        return Fail(problem.what());
-    }
-    catch (const Standard_Failure& failure) // what the geometry kernel raises is no std::exception
-    {
-        return Fail(failure.GetMessageString());
-    }
+    return example::RunProgram("outline_tour", argc, argv, Run);
 }

@@ -1,17 +1,13 @@
 #include "Svg.h"
 
-#include "Outline.h"
 #include "Text.h"
 
-#include <cmath>
-
-namespace tour
+namespace example
 {
 
 namespace
 {
 
-using math::CSegment;
 using math::DPOINT2;
 
 std::string Number(double value)
@@ -59,66 +55,54 @@ std::string Escaped(const std::string& text)
     return escaped;
 }
 
-void AppendArc(std::string& data, const CSegment& segment, const Arc& arc, const View& view)
-{
-    const std::string radius = Number(arc.radius * view.scale);
-    const char* const upward = arc.sweep > 0 ? " 0 0 0 " : " 0 0 1 "; // the page turns counter-clockwise round
-    const auto appendTo = [&](const DPOINT2& end) { data += "A" + radius + " " + radius + upward + Pair(view(end)); };
-    if (std::abs(segment.bulge) > 1)
-    {
-        appendTo(segment.GetPoint(0.5)); // by halves there is only one arc of this radius between two points
-    }
-    appendTo(segment.end);
-}
-
-void AppendSegment(std::string& data, const CSegment& segment, const View& view)
-{
-    if (const std::optional<Arc> arc = ArcOf(segment))
-    {
-        AppendArc(data, segment, *arc, view);
-    }
-    else
-    {
-        data += "L" + Pair(view(segment.end));
-    }
-}
-
 } // namespace
 
-std::string PathData(const std::vector<CSegment>& segments, const View& view)
+PathBuilder& PathBuilder::MoveTo(const DPOINT2& point)
 {
-    std::string data;
-    const CSegment* previous = nullptr;
-    for (const CSegment& segment : segments)
-    {
-        if (previous == nullptr || math::D2GetDistance(previous->end, segment.start) > math::DoubleTolerance)
-        {
-            data += "M" + Pair(view(segment.start));
-        }
-        AppendSegment(data, segment, view);
-        previous = &segment;
-    }
-    return data;
+    m_data += "M" + Pair(point);
+    return *this;
 }
 
-std::string PathData(const math::CPolyline& outline, const View& view)
+PathBuilder& PathBuilder::LineTo(const DPOINT2& point)
 {
-    std::string data = "M" + Pair(view(outline.start));
-    for (int i = 0; i < SegmentCount(outline); ++i)
-    {
-        AppendSegment(data, SegmentAt(outline, i), view);
-    }
-    return data + (outline.IsClosed() ? "Z" : "");
+    m_data += "L" + Pair(point);
+    return *this;
+}
+
+PathBuilder& PathBuilder::CurveTo(const DPOINT2& firstControl, const DPOINT2& secondControl, const DPOINT2& point)
+{
+    m_data += "C" + Pair(firstControl) + " " + Pair(secondControl) + " " + Pair(point);
+    return *this;
+}
+
+PathBuilder& PathBuilder::ArcTo(const EllipseShape& shape, bool counterClockwise, const DPOINT2& point)
+{
+    const char* const flags = counterClockwise ? " 0 0 " : " 0 1 "; // the page turns counter-clockwise round
+    m_data += "A" + Number(shape.a) + " " + Number(shape.b) + " " + Number(shape.degrees) + flags + Pair(point);
+    return *this;
+}
+
+PathBuilder& PathBuilder::Close()
+{
+    m_data += "Z";
+    return *this;
+}
+
+const std::string& PathBuilder::Data() const
+{
+    return m_data;
 }
 
 std::string PathData(const std::vector<DPOINT2>& corners, bool closed)
 {
-    std::string data;
+    PathBuilder path;
+    bool first = true;
     for (const DPOINT2& corner : corners)
     {
-        data += (data.empty() ? "M" : "L") + Pair(corner);
+        first ? path.MoveTo(corner) : path.LineTo(corner);
+        first = false;
     }
-    return data + (closed ? "Z" : "");
+    return closed ? path.Close().Data() : path.Data();
 }
 
 SvgPage::SvgPage(double width, double height, const std::string& title, const std::string& style)
@@ -147,11 +131,16 @@ void SvgPage::Circle(const DPOINT2& centre, double radius, const std::string& cl
               Attribute("cy", Number(centre.y)) + Attribute("r", Number(radius)) + "/>\n";
 }
 
+void SvgPage::Rectangle(const DPOINT2& corner, double width, double height, const std::string& classes)
+{
+    m_text += "<rect" + Attribute("class", classes) + Attribute("x", Number(corner.x)) +
+              Attribute("y", Number(corner.y)) + Attribute("width", Number(width)) +
+              Attribute("height", Number(height)) + "/>\n";
+}
+
 void SvgPage::Square(const DPOINT2& centre, double half, const std::string& classes)
 {
-    m_text += "<rect" + Attribute("class", classes) + Attribute("x", Number(centre.x - half)) +
-              Attribute("y", Number(centre.y - half)) + Attribute("width", Number(2 * half)) +
-              Attribute("height", Number(2 * half)) + "/>\n";
+    Rectangle({centre.x - half, centre.y - half}, 2 * half, 2 * half, classes);
 }
 
 void SvgPage::Diamond(const DPOINT2& centre, double half, const std::string& classes)
@@ -169,9 +158,19 @@ void SvgPage::Text(const DPOINT2& anchor, const std::string& text, const std::st
               Attribute("y", Number(anchor.y)) + ">" + Escaped(text) + "</text>\n";
 }
 
+void SvgPage::BeginGroup(const std::string& classes)
+{
+    m_text += "<g" + Attribute("class", classes) + ">\n";
+}
+
+void SvgPage::EndGroup()
+{
+    m_text += "</g>\n";
+}
+
 std::string SvgPage::Finish() const
 {
     return m_text + "</svg>\n";
 }
 
-} // namespace tour
+} // namespace example

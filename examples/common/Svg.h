@@ -1,12 +1,11 @@
 #pragma once
 
-#include "math/CPolyline.h"
-#include "math/CSegment.h"
+#include "math/Primitives.h"
 
 #include <string>
 #include <vector>
 
-namespace tour
+namespace example
 {
 
 /// Where on the page a point of the drawing lies. On the page y runs downward.
@@ -22,12 +21,34 @@ struct View
     }
 };
 
-/// The data of an SVG path along segments; an arc stays an arc. A new stroke begins where a segment doesn't follow on
-/// the one before.
-std::string PathData(const std::vector<math::CSegment>& segments, const View& view);
+/// Semi-axes and turn of an ellipse on the page, where a positive turn is clockwise.
+struct EllipseShape
+{
+    double a = 1;
+    double b = 1;
+    double degrees = 0;
+};
 
-/// A closed stroke round an outline.
-std::string PathData(const math::CPolyline& outline, const View& view);
+/// The data of an SVG path, stroke by stroke, in page coordinates.
+class PathBuilder
+{
+public:
+    PathBuilder& MoveTo(const math::DPOINT2& point);
+    PathBuilder& LineTo(const math::DPOINT2& point);
+
+    /// A cubic curve.
+    PathBuilder& CurveTo(const math::DPOINT2& firstControl, const math::DPOINT2& secondControl,
+                         const math::DPOINT2& point);
+
+    /// An arc of at most half an ellipse, counter-clockwise as the eye sees it or clockwise.
+    PathBuilder& ArcTo(const EllipseShape& shape, bool counterClockwise, const math::DPOINT2& point);
+
+    PathBuilder& Close();
+    const std::string& Data() const;
+
+private:
+    std::string m_data;
+};
 
 /// The corners of a broken line, in page coordinates.
 std::string PathData(const std::vector<math::DPOINT2>& corners, bool closed);
@@ -41,11 +62,16 @@ public:
     void Path(const std::string& data, const std::string& classes);
     void Line(const math::DPOINT2& from, const math::DPOINT2& to, const std::string& classes);
     void Circle(const math::DPOINT2& centre, double radius, const std::string& classes);
+    void Rectangle(const math::DPOINT2& corner, double width, double height, const std::string& classes);
     void Square(const math::DPOINT2& centre, double half, const std::string& classes);
     void Diamond(const math::DPOINT2& centre, double half, const std::string& classes);
 
-    /// `anchor` is the middle of the text's base line, or its beginning with the class "note".
+    /// `anchor` is the middle of the text's base line, or its beginning, as the style sheet says.
     void Text(const math::DPOINT2& anchor, const std::string& text, const std::string& classes);
+
+    /// What follows up to EndGroup() belongs together.
+    void BeginGroup(const std::string& classes);
+    void EndGroup();
 
     /// The whole picture.
     std::string Finish() const;
@@ -54,4 +80,4 @@ private:
     std::string m_text;
 };
 
-} // namespace tour
+} // namespace example

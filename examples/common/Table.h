@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-namespace tour
+namespace example
 {
 
 /// A table of text: columns as wide as they need to be, the last one set left, the others right.
@@ -22,4 +22,4 @@ private:
     std::vector<std::vector<std::string>> m_rows;
 };
 
-} // namespace tour
+} // namespace example

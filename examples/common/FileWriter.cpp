@@ -8,7 +8,7 @@
 #include <cstring>
 #include <filesystem>
 
-namespace tour
+namespace example
 {
 
 namespace
@@ -89,4 +89,4 @@ void ReplaceFile(const std::string& path, const std::string& text)
     }
 }
 
-} // namespace tour
+} // namespace example

@@ -2,7 +2,7 @@
 
 #include <string>
 
-namespace tour
+namespace example
 {
 
 /// Puts text into a file in one go: it is written beside the file first and then takes its name, so that nobody ever
@@ -10,4 +10,4 @@ namespace tour
 /// @throw Problem if the file can't be written
 void ReplaceFile(const std::string& path, const std::string& text);
 
-} // namespace tour
+} // namespace example

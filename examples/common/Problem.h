@@ -3,7 +3,7 @@
 #include <stdexcept>
 #include <string>
 
-namespace tour
+namespace example
 {
 
 /// Something the user can put right; its text is what the program prints before it ends.
@@ -15,4 +15,4 @@ public:
     }
 };
 
-} // namespace tour
+} // namespace example

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace tour
+namespace example
 {
 
 /// The finite number that the whole text stands for, in the notation of C whatever the locale; blanks around it and a
@@ -29,4 +29,4 @@ std::string Quoted(std::string_view text);
 /// "1 segment", "2 segments".
 std::string Counted(std::size_t count, const std::string& noun);
 
-} // namespace tour
+} // namespace example

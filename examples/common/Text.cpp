@@ -4,7 +4,7 @@
 #include <cmath>
 #include <cstdio>
 
-namespace tour
+namespace example
 {
 
 namespace
@@ -97,4 +97,4 @@ std::string Counted(std::size_t count, const std::string& noun)
     return std::to_string(count) + " " + noun + (count == 1 ? "" : "s");
 }
 
-} // namespace tour
+} // namespace example

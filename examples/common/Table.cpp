@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <utility>
 
-namespace tour
+namespace example
 {
 
 Table::Table(std::vector<std::string> headings)
@@ -41,4 +41,4 @@ void Table::Print(std::ostream& out) const
     }
 }
 
-} // namespace tour
+} // namespace example
