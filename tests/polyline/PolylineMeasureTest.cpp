@@ -81,8 +81,8 @@ TEST(PolylineGetRECT, HoldsDenseSamplesAndTouchesThem)
                 samples.push_back(outline.GetSegment(k).GetPoint(s / 2000.0));
             }
         }
-        // Between samples an arc rises by its radius times the squared half step, an eighth of (sweep / 2000)². Flat arcs
-        // of great radius sweep little; below sweep 4 and length 40 that is below 1e-5.
+        // Between samples an arc rises by its radius times an eighth of (sweep / 2000)². Flat arcs of great radius sweep
+        // little; below sweep 4 and length 40 that is below 1e-5.
         ASSERT_TRUE(IsBoxOf(outline.GetRECT(), samples, 1e-5));
     }
 }
@@ -258,8 +258,8 @@ TEST(PolylineGetArea, AnArcAddsWhatLiesBetweenItAndItsChord)
 
 TEST(PolylineGetArea, ABulgeBelowTheToleranceIsStraight)
 {
-    // Over a chord of 1e4 an arc of this bulge still has an area of c² b / 3 = 0.033. The term is a difference of numbers
-    // about 1e16, so rounding spoils it, but leaves no zero.
+    // Over a chord of 1e4 an arc of this bulge still has an area of c² b / 3 = 0.033. The term is a difference of
+    // numbers about 1e16, so rounding spoils it, but leaves no zero.
     const double chord = 1e4;
     const auto area = [chord](double bulge) { return Outline(At(0, 0), {{chord, 0, bulge}, {0, 0}}).GetArea(); };
     EXPECT_EQ(area(Previous(1e-9)), 0);

@@ -98,8 +98,8 @@ TEST(SegmentGetAngle, IsReducedByOneTurnAtMost)
 
 TEST(SegmentGetAngle, ALongClockwiseArcCanEndBelowZero)
 {
-    // From the direction 0.1 clockwise over 6: the place at the end is -5.9, within a turn of 0. A quarter turn less and
-    // one turn more leave -1.19.
+    // From the direction 0.1 clockwise over 6: the place at the end is -5.9, within a turn of 0. A quarter turn less
+    // and one turn more leave -1.19.
     const CSegment arc = ArcOfAngles(At(0, 0), 1, 0.1, -6);
     EXPECT_TRUE(Near(arc.GetAngle(1), -5.9 - HalfPi + TwoPi, 1e-13));
     EXPECT_LT(arc.GetAngle(1), 0);
