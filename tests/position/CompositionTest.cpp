@@ -231,6 +231,20 @@ TEST(Composition, WhereOneLapOfTheSourceEndsAJointComesInBeforeTheRestGoes)
     EXPECT_EQ(Map({{0, 1}, {1, 1}}, 4, 2) * Map({{1, 0}, {3, 0}}, 2, 4), Map({{0, 0}, {4, 0}}, 4, 4));
 }
 
+TEST(Composition, WhereTheLapEndsAJointOutOfOrderServes)
+{
+    // A straight chain of steps below the tolerance leads the first map back from 1 to 1 - 4.8e-9. Unrolled it passes 3 at
+    // 7 and lies just below it at 9, so that 9 is walked before 7, where one lap from 3 ends: no joint needs to come in,
+    // 9 goes and 7 stays.
+    Pairs pairs;
+    for (int step = 0; step <= 8; ++step)
+    {
+        pairs.emplace_back(3 + 0.25 * step, 1 - 6e-10 * step);
+    }
+    pairs.emplace_back(6, 1.5);
+    EXPECT_EQ(Map(pairs, 4, 2) * Map({{1, 0}, {3, 4}}, 2, 4), Map({{3, 0}, {6, 1}, {7, 4}}, 4, 4));
+}
+
 TEST(Composition, WhatLiesBeyondOneLapOfTheDestinationGoes)
 {
     // Unrolled, the second map jumps from 1 to 2 and then from 3 to 4; one lap from 1 ends at 3.

@@ -236,6 +236,15 @@ TEST(PosMapIsInvalid, StepsBelowTheToleranceMayGoAgainstTheWalk)
     EXPECT_TRUE(Map({{0, -Tolerance}, {1, 0}, {2, -1}}, 4, 4).IsInvalid());
 }
 
+TEST(PosMapIsInvalid, AColumnWithEqualEndsRunsUpward)
+{
+    // One true step and small ones back to where it began: the true step has to go up.
+    EXPECT_FALSE(Map({{0, 0}, {2e-9, 1}, {12e-10, 2}, {4e-10, 3}, {0, 4}}, 4, 4).IsInvalid());
+    EXPECT_TRUE(Map({{0, 0}, {-2e-9, 1}, {-12e-10, 2}, {-4e-10, 3}, {0, 4}}, 4, 4).IsInvalid());
+    EXPECT_FALSE(Map({{0, 0}, {1, 2e-9}, {2, 12e-10}, {3, 4e-10}, {4, 0}}, 4, 4).IsInvalid());
+    EXPECT_TRUE(Map({{0, 0}, {1, -2e-9}, {2, -12e-10}, {3, -4e-10}, {4, 0}}, 4, 4).IsInvalid());
+}
+
 TEST(PosMapIsInvalid, RoundAPolylineAtMostOnce)
 {
     EXPECT_TRUE(Map({{0, 0}, {5, 5}}, 4, 4).IsInvalid());
