@@ -361,6 +361,18 @@ TEST(IntersectionOfLines, OfLevelAndUprightLinesIsExact)
     EXPECT_TRUE(Near(ParametersOf(intersection, 1), At(std::sqrt(8.0), std::sqrt(8.0)), 1e-15));
 }
 
+TEST(IntersectionOfLines, TakesTheParameterOfADiagonalFromY)
+{
+    // The location of the diagonal is so far away that x has no digits left for a height of 0.1.
+    const IntAna2d_AnaIntersection intersection(Line(1e10, 0, 1, 1), Line(0, 0.1, 1, 0));
+    EXPECT_TRUE(Near(ParametersOf(intersection, 1).x, 0.1 * std::sqrt(2.0), 1e-15));
+    // A little steeper and y is taken, a little flatter and x is.
+    EXPECT_TRUE(
+        Near(ParametersOf(IntAna2d_AnaIntersection(Line(1e10, 0, 3, 4), Line(0, 0.1, 1, 0)), 1).x, 0.125, 1e-15));
+    EXPECT_FALSE(
+        Near(ParametersOf(IntAna2d_AnaIntersection(Line(1e10, 0, 4, 3), Line(0, 0.1, 1, 0)), 1).x, 0.1 / 0.6, 1e-9));
+}
+
 TEST(IntersectionOfLines, DoesNotExistForParallels)
 {
     EXPECT_EQ(Outcome(IntAna2d_AnaIntersection(Line(0, 0, 1, 0), Line(0, 1, 1, 0))), "parallel empty 0");

@@ -199,11 +199,15 @@ TEST(ReverseDirection, IsHalfATurnAway)
     EXPECT_EQ(GetReverseAngle(180.0), 0.0);
     EXPECT_EQ(GetReverseAngle(-10.0), 170.0);
     EXPECT_EQ(GetReverseAngle(725.0), 185.0);
+    // Half a turn is taken away, not added: from 190.1 the difference is exact, the sum would lose its last digits.
+    EXPECT_EQ(GetReverseAngle(190.1), 190.1 - 180.0);
+    EXPECT_NE(GetReverseAngle(190.1), (190.1 + 180.0) - 360.0);
     EXPECT_EQ(GetReverseRadian(0.0), Pi);
     EXPECT_TRUE(SameBits(GetReverseRadian(Pi), 0.0));
     EXPECT_EQ(GetReverseRadian(HalfPi), ThreeHalvesPi);
     EXPECT_EQ(GetReverseRadian(1.0), (1.0 - Pi) + TwoPi);
-    EXPECT_EQ(GetReverseRadian(4.0), 4.0 - Pi);
+    EXPECT_EQ(GetReverseRadian(3.4), 3.4 - Pi);
+    EXPECT_NE(GetReverseRadian(3.4), (3.4 + Pi) - TwoPi);
 }
 
 TEST(ComplementaryAngle, IsTheSupplementWithinHalfATurn)

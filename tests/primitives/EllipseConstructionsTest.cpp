@@ -242,6 +242,7 @@ TEST(HeightOfEllipseArc, ExistsForValidArgumentsOnly)
     EXPECT_FALSE(exists(1.0, Next(1.0), 0.0, 1.0));
     EXPECT_TRUE(exists(1.0, 1.0, 0.0, 1.0));
     EXPECT_FALSE(exists(2.0, 0.0, 0.0, 1.0));
+    EXPECT_FALSE(exists(2.0, 0.0, 0.5, 0.4));
     EXPECT_FALSE(exists(2.0, -1.0, 0.0, 1.0));
     EXPECT_FALSE(exists(2.0, -5e-324, 0.0, 1.0));
     EXPECT_TRUE(exists(2.0, 1e-300, 0.5, 1.0));

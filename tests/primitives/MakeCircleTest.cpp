@@ -214,6 +214,9 @@ TEST(MadeCircle, NeedsPointsMoreThanTheSmallDistanceApart)
     // Second and third: the two bisectors are then one line within the tolerance of lines.
     EXPECT_TRUE(IsRefused(gce_MakeCirc2d(Point(0, 0), Point(1, 0), Point(1, SmallDistance)), 3));
     EXPECT_TRUE(Raises(OutOfRange, "", [&] { gce_MakeCirc2d(Point(0, 0), Point(1, 0), Point(1, beyond)); }));
+    // There the second bisector gives way: it becomes the parallel of the first through the first point, which is so
+    // near that both are one line.
+    EXPECT_TRUE(Raises(OutOfRange, "", [] { gce_MakeCirc2d(Point(0, 0), Point(3e-16, 0), Point(3e-16, 2e-16)); }));
 }
 
 TEST(MadeCircle, PassesOnThatBothBisectorsAreOneLine)
@@ -244,6 +247,17 @@ TEST(MadeCircle, ThroughPointsVeryNearEachOtherStandsOnTheXAxis)
                  (1e-17 + std::hypot(Previous(SmallDistance), 1e-17) + 4e-17) / 3.0, 1e-30));
     EXPECT_TRUE(
         Raises(OutOfRange, "", [] { gce_MakeCirc2d(Point(0, 1e-17), Point(SmallDistance, 1e-17), Point(0, 4e-17)); }));
+}
+
+TEST(MadeCircle, ThroughThreePointsAscendsFromADirectionToTheSame)
+{
+    // Points nearer than the small distance: the centre lies on the x axis below the first, at (2, 0) in units of 2^-56.
+    // The second and the third are seen in one direction, 3π/4, and the sense stays.
+    const double unit = 0x1p-56;
+    const gp_Circ2d circle =
+        gce_MakeCirc2d(Point(2 * unit, 3 * unit), Point(-unit, 3 * unit), Point(-4 * unit, 6 * unit)).Value();
+    EXPECT_TRUE(IsCircle(circle, 2 * unit, 0, (3 + std::sqrt(18.0) + std::sqrt(72.0)) / 3 * unit, 1e-30));
+    EXPECT_TRUE(HasAxis(circle, 1, 0, true));
 }
 
 TEST(MadeCircle, ThroughThreePointsKeepsThemAtItsRadius)

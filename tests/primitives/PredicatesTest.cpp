@@ -434,6 +434,21 @@ TEST(PointInArcByPoints, IncludesBothEnds)
     EXPECT_FALSE(IsPointInArc(OnUnitCircle(HalfPi + 2e-9), At(0, 0), At(1, 0), At(0, 1), true));
 }
 
+TEST(PointInArcByPoints, IncludesAPointAtAnEndWithoutFurtherTest)
+{
+    // On a circle of radius 1e6 the start computed from its direction is some 1e-10 off. This point is 0.99e-9 before
+    // the start: beyond the tolerance of the computed start and of the directions, but not of the given start.
+    const DPOINT2 centre = At(0, 0);
+    const DPOINT2 start = GetPointInCircle(centre, 1e6, 0.1);
+    const DPOINT2 end = GetPointInCircle(centre, 1e6, 1.1);
+    const DPOINT2 point = At(start.x + 6 * 0x1p-34, start.y - 16 * 0x1p-34);
+    ASSERT_LT(D2GetDistance(point, start), 1e-9);
+    const double startRadian = D2GetNormalAngle(start);
+    const double extent = D2GetNormalAngle(end) - startRadian;
+    EXPECT_FALSE(IsPointInArc(point, centre, D2GetDistance(start, centre), startRadian, extent, true));
+    EXPECT_TRUE(IsPointInArc(point, centre, start, end, true));
+}
+
 TEST(PointInArcByPoints, HasNoExtentBetweenEqualEnds)
 {
     for (const bool ccw : {true, false})
