@@ -171,6 +171,13 @@ TEST(Composition, EndingAtTheSeamIsNotCrossingIt)
     EXPECT_EQ(Map({{0, 3}, {1, end}}, 2, 4) * Map({{3, 0}, {4, 1}}, 4, 2), Map({{0, 0}, {1, 1}}, 2, 2));
 }
 
+TEST(Composition, APolylineOfOpenSizeHasNoSeam)
+{
+    // Exactly the tolerance long: the stretch is no point, and there is no count to go past.
+    EXPECT_EQ(Map({{0, 0}}, 4, 0) * Map({{0, 2}, {Tolerance, 3}}, 0, 5), Map({{0, 2}}, 4, 5));
+    EXPECT_EQ(Map({{0, 0}, {1, Tolerance}}, 4, 0) * Map({{0, 2}}, 0, 5), Map({{0, 2}}, 4, 5));
+}
+
 TEST(Composition, TurnsOfAClosedPolylineAddUp)
 {
     EXPECT_EQ(Map({{0, 1}, {4, 5}}, 4, 4) * Map({{0, 3}, {4, 7}}, 4, 4), Whole(4));
