@@ -38,7 +38,8 @@ namespace math
 /// DstSegmentCount), 3 both where an operation takes it.
 ///
 /// **Counts.** SrcSegmentCount and DstSegmentCount are the segment counts of the two polylines. A count of 0 leaves the
-/// size of that polyline open.
+/// size of that polyline open, as the generators do for whole ranges. Positions cannot be wrapped on such a side: they
+/// count as -1.0 wherever a function wraps them, unless it says otherwise.
 ///
 /// **Normal form.** A map is normal when the lower end of each column lies at or above 0 and below the count of its
 /// side. The upper end may lie past the count: so a normal map crosses the seam.
@@ -164,10 +165,12 @@ public:
 
     /// Takes out the corners of small staircases, then repeated and straight joints.
     ///
-    /// A corner is a joint between a step in one column and a step in the other. It goes when both steps are shorter
-    /// than `maxStep` (or near it) and differ by less than `maxStepDifference` (or near it). The joint after a corner
-    /// that went is not tested as the next corner. On a map that goes right round both polylines the place where it
-    /// begins is tested too. The map is filled first as by FillAllSegmentNode(3), with all that entails.
+    /// A corner is a joint between a step in one column and a step in the other; a column stands still where values are
+    /// exactly equal, or a lap apart. (In one of the two shapes of a corner the lap of the source is that of the
+    /// destination.) It goes when both steps are shorter than `maxStep` (or near it) and differ by less than
+    /// `maxStepDifference` (or near it). The joint after a corner that went is not tested as the next corner. On a map
+    /// that goes right round both polylines the place where it begins is tested too. The map is filled first as by
+    /// FillAllSegmentNode(3), with all that entails; one that then has no more than two joints is left so.
     void Smooth(const double& maxStep, const double& maxStepDifference);
 
     /// @}
@@ -198,7 +201,8 @@ public:
     /// The last joint near `pos`; without one, the last joint that the walk passes before `pos`. Positions are compared
     /// raw.
     /// @param side  1 for the source column, anything else for the destination column
-    /// @return the index; -1 if there is none, or if the map is invalid or empty
+    /// @return the index; -1 if there is none, or if the map is invalid or empty. A column that stands still counts as
+    ///         running down here
     int GetMaxLeftIndex(const double& pos, const int& side) const;
 
     /// Index of the first joint at or after `pos` in walking order: the mirror image of GetMaxLeftIndex().

@@ -22,9 +22,9 @@ namespace math
 /// **Range list.** A `std::vector<PosRangeD>` with one range for each source segment: the stretch of the destination
 /// that it became. A `start` of exactly -1.0 means that it has none.
 ///
-/// Nothing here tests its arguments beyond what is told, normalises or checks its result; each function says whether
-/// repeated and straight joints are dropped (CPolyPosMap::Unique(true)). Integer parts beyond `int` count as the
-/// nearest `int`. Only the allocator throws. All functions may run on several threads at once.
+/// Nothing here tests its arguments beyond what each function says, normalises or checks its result; each function says
+/// whether repeated and straight joints are dropped (CPolyPosMap::Unique(true)). Integer parts beyond `int` count as
+/// the nearest `int`. Only the allocator throws. All functions may run on several threads at once.
 class QORMATH_EXPORT CPolyPosMapUtilies
 {
 public:
@@ -130,8 +130,10 @@ public:
 
     /// Restates a map after a stretch at one end of its source (or destination) was taken away.
     ///
-    /// The map jumps over the lost stretch, or collapses it. A stretch from the middle leaves the map as it is.
-    /// @return the map; an empty map with both counts 0 if `map` has no joints or `range` starts above its end
+    /// The map jumps over the lost stretch, or collapses it. A stretch from the middle changes nothing, apart from
+    /// bringing the map to normal form. Equal ends are a whole range: it takes the whole side away.
+    /// @return the map; an empty map with both counts 0 if `map` has no joints or is invalid, if `range` starts above
+    ///         its end, or if nothing is left
     static CPolyPosMap RemoveOpenRangeFromMap(const CPolyPosMap& map, const PosRangeD& range, const bool& onSrc);
 
     /// @}

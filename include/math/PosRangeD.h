@@ -80,7 +80,8 @@ struct QORMATH_EXPORT PosRangeD
     /// back between `range.start` and that end, on whichever lap; one outside comes back somewhere on those laps
     /// without a signal. A position near either end of the (unrolled) range comes back as it is.
     ///
-    /// @return the moved position; -1.0 in the cases in which the form without a range gives it
+    /// @return the moved position; -1.0 for a count of 0, and, unless the position is near an end or the seam, for a
+    ///         negative count or an infinite position
     static double NormalizePos(const double& pos, const PosRangeD& range, const int& segmentCount);
 
     /// True when the range is invalid; the same test as IsInvalid().
@@ -141,8 +142,9 @@ struct QORMATH_EXPORT PosRangeD
 
     /// The range cut at a position, pieces in walking order.
     ///
-    /// A position outside the range, or at an end of it, leaves it in one piece; an invalid range gives none. A whole
-    /// range is cut once more, into the part up to `pos` and the part from there. `pos` is not wrapped.
+    /// A position outside the range, or exactly at an end of it, leaves it in one piece; an invalid range gives none. A
+    /// whole range gives the part up to `pos` and the part from there, unless `pos` is near its ends. `pos` is not
+    /// wrapped.
     std::vector<PosRangeD> Splite(const double& pos);
 
     /// @name Set algebra
@@ -162,13 +164,14 @@ struct QORMATH_EXPORT PosRangeD
 
     /// The union: one range where the two overlap, else both.
     ///
-    /// An invalid operand adds nothing, a whole one swallows the other; two that make up the loop give a whole range.
-    /// Two corners are lopsided: of two forward ranges that touch, they merge only if `other` ends where this one
-    /// starts; and a forward range in the part of a wrapping one past the seam stays a range of its own.
+    /// An invalid operand adds nothing, a whole one swallows the other; two that overlap and go right round give a
+    /// whole range, while two that only touch stay two. Two corners are lopsided: of two forward ranges that touch,
+    /// they merge only if `other` ends where this one starts; and a forward range in the part of a wrapping one past
+    /// the seam stays a range of its own.
     std::vector<PosRangeD> operator+(const PosRangeD& other) const;
 
-    /// The intersection. Ranges that touch do not intersect. Where a forward and a wrapping range meet, the part before
-    /// the end of the wrapping one comes first.
+    /// The intersection, empty for an invalid operand. Ranges that touch do not intersect. Where a forward and a
+    /// wrapping range meet, the part before the end of the wrapping one comes first.
     std::vector<PosRangeD> operator*(const PosRangeD& other) const;
 
     /// @}

@@ -3,9 +3,7 @@
 #include "position/PairList.h"
 #include "primitives/Tolerance.h"
 
-#include <algorithm>
 #include <cstdint>
-#include <limits>
 
 namespace math
 {
@@ -20,9 +18,7 @@ namespace
 
 int JoinedCount(int firstCount, int secondCount)
 {
-    const std::int64_t joined = std::int64_t{firstCount} + secondCount;
-    return static_cast<int>(
-        std::clamp<std::int64_t>(joined, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+    return detail::SaturateToInt(std::int64_t{firstCount} + secondCount);
 }
 
 /// The map from the segments `from` to `to` of a polyline to that polyline.

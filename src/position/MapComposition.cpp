@@ -7,7 +7,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <limits>
 #include <map>
 
 namespace math
@@ -25,8 +24,8 @@ namespace
 
 using PreimageTable = std::map<double, std::vector<double>>;
 
-/// Normalises until the map is normal. Whole laps settle it within a few passes; a map whose columns run opposite ways
-/// may never get there.
+/// Normalises until the map is normal. Positions whose integer part is an `int` settle within a few passes; a map whose
+/// columns run opposite ways may never get there.
 bool BringToNormalForm(CPolyPosMap& map)
 {
     constexpr int mostPasses = 8;
@@ -43,9 +42,7 @@ bool BringToNormalForm(CPolyPosMap& map)
 
 int DoubledCount(int segmentCount)
 {
-    const std::int64_t doubled = std::int64_t{2} * segmentCount;
-    return static_cast<int>(
-        std::clamp<std::int64_t>(doubled, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+    return detail::SaturateToInt(std::int64_t{2} * segmentCount);
 }
 
 /// Writes a map over two laps of both polylines, so that the walk goes straight on from the first lap into the second
@@ -133,7 +130,7 @@ private:
     void ReduceRuns();
     JointList JointsInWalkingOrder() const;
     void LimitToOneLap(JointList& joints) const;
-    CPolyPosMap Finish(JointList&& joints) const;
+    CPolyPosMap MakeResult(const JointList& joints) const;
 
     const CPolyPosMap& m_first;
     const CPolyPosMap& m_second;
@@ -309,7 +306,7 @@ void Composition::LimitToOneLap(JointList& joints) const
     CutBeyond(joints, DestinationSide, destinationLimit, m_sameWay);
 }
 
-CPolyPosMap Composition::Finish(JointList&& joints) const
+CPolyPosMap Composition::MakeResult(const JointList& joints) const
 {
     CPolyPosMap result(joints, m_first.SrcSegmentCount(), m_second.DstSegmentCount());
     if (result.IsIncrease(SourceSide) != m_first.IsIncrease(SourceSide))
@@ -332,7 +329,7 @@ CPolyPosMap Composition::Compose()
         return CPolyPosMap();
     }
     LimitToOneLap(joints);
-    return Finish(std::move(joints));
+    return MakeResult(joints);
 }
 
 } // namespace

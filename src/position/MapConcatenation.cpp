@@ -7,35 +7,26 @@ namespace math
 
 using detail::ColumnValue;
 using detail::DestinationSide;
-using detail::Joint;
 using detail::JointList;
 using detail::SourceSide;
 
 namespace
 {
 
-void LiftColumn(JointList& joints, int side, int segmentCount)
-{
-    for (Joint& joint : joints)
-    {
-        ColumnValue(joint, side) += segmentCount;
-    }
-}
-
 /// Lifts the walk with the higher values past the seam where the column would run backwards: the later one upward, the
 /// earlier one downward.
-void LiftOverSeam(JointList& earlier, JointList& later, int side, bool upward, int segmentCount)
+void RunOnPastSeam(JointList& earlier, JointList& later, int side, bool upward, int segmentCount)
 {
     if (upward)
     {
         if (ColumnValue(earlier.back(), side) > ColumnValue(later.back(), side))
         {
-            LiftColumn(later, side, segmentCount);
+            detail::ShiftColumn(later, side, segmentCount);
         }
     }
     else if (ColumnValue(later.front(), side) > ColumnValue(earlier.front(), side))
     {
-        LiftColumn(earlier, side, segmentCount);
+        detail::ShiftColumn(earlier, side, segmentCount);
     }
 }
 
@@ -58,8 +49,8 @@ CPolyPosMap CPolyPosMap::operator+(const CPolyPosMap& other) const
     }
     JointList earlier = m_posPairs;
     JointList later = other.m_posPairs;
-    LiftOverSeam(earlier, later, DestinationSide, IsIncrease(DestinationSide), m_dstSegmentCount);
-    LiftOverSeam(earlier, later, SourceSide, IsIncrease(SourceSide), m_srcSegmentCount);
+    RunOnPastSeam(earlier, later, DestinationSide, IsIncrease(DestinationSide), m_dstSegmentCount);
+    RunOnPastSeam(earlier, later, SourceSide, IsIncrease(SourceSide), m_srcSegmentCount);
     earlier.insert(earlier.end(), later.begin(), later.end());
     return CPolyPosMap(earlier, m_srcSegmentCount, m_dstSegmentCount);
 }

@@ -13,18 +13,11 @@ using detail::ColumnValue;
 using detail::DestinationSide;
 using detail::Joint;
 using detail::JointList;
+using detail::ShiftColumn;
 using detail::SourceSide;
 
 namespace
 {
-
-void ShiftColumn(JointList& joints, int side, double delta)
-{
-    for (Joint& joint : joints)
-    {
-        ColumnValue(joint, side) += delta;
-    }
-}
 
 void TurnColumn(JointList& joints, int side, int segmentCount)
 {

@@ -160,7 +160,7 @@ CPolyPosMap CPolyPosMapUtilies::ResetZero(const double& pos, const int& segmentC
     }
     const double segment = PosRangeD::GetSegmentIndex(pos);
     const JointList joints{{0.0, pos}, {1.0, segment + 1.0}, {count, segment + count}, {count + 1.0, count + pos}};
-    const int sourceCount = segmentCount < std::numeric_limits<int>::max() ? segmentCount + 1 : segmentCount;
+    const int sourceCount = detail::SaturateToInt(std::int64_t{segmentCount} + 1);
     return CPolyPosMap(joints, sourceCount, segmentCount);
 }
 

@@ -31,19 +31,15 @@ std::int64_t LapsToTakeOff(double position, int segmentCount)
     {
         return detail::WholeLaps(position, segmentCount);
     }
+    // A NaN lies in no lap.
     return position < 0 ? -1 - detail::WholeLaps(-position, segmentCount) : 0;
 }
 
 void TakeOffLaps(JointList& joints, int side, std::int64_t laps, int segmentCount)
 {
-    if (laps == 0)
+    if (laps != 0)
     {
-        return;
-    }
-    const double shift = static_cast<double>(laps * segmentCount);
-    for (Joint& joint : joints)
-    {
-        ColumnValue(joint, side) -= shift;
+        detail::ShiftColumn(joints, side, -static_cast<double>(laps * segmentCount));
     }
 }
 

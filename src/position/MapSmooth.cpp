@@ -24,9 +24,9 @@ bool StandsStill(double a, double b, int segmentCount)
     return a == b || a == b + segmentCount || a + segmentCount == b;
 }
 
-bool IsBelow(double value, double limit)
+bool IsShortEnough(double length, double limit)
 {
-    return AreEqual(value, limit) || !(value >= limit);
+    return AreEqual(length, limit) || !(length >= limit);
 }
 
 /// Three joints in a row. On a closed map the last joint and the first are one place, and the corner between them is
@@ -117,8 +117,8 @@ void CPolyPosMap::Smooth(const double& maxStep, const double& maxStepDifference)
         const Corner corner{joints[before], joints[middle], joints[middle + 1], atSeam};
         Legs legs{};
         const bool goes = FindLegs(corner, m_srcSegmentCount, m_dstSegmentCount, legs) &&
-                          IsBelow(legs.before, longestStep) && IsBelow(legs.after, longestStep) &&
-                          IsBelow(std::abs(legs.before - legs.after), greatestDifference);
+                          IsShortEnough(legs.before, longestStep) && IsShortEnough(legs.after, longestStep) &&
+                          IsShortEnough(std::abs(legs.before - legs.after), greatestDifference);
         if (!goes)
         {
             ++before;

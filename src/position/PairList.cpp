@@ -8,6 +8,7 @@
 #include <cmath>
 #include <cstddef>
 #include <iterator>
+#include <limits>
 
 namespace math::detail
 {
@@ -57,6 +58,20 @@ bool IsStraight(const Joint& before, const Joint& joint, const Joint& after, int
 
 } // namespace
 
+void ShiftColumn(JointList& joints, int side, double delta)
+{
+    for (Joint& joint : joints)
+    {
+        ColumnValue(joint, side) += delta;
+    }
+}
+
+int SaturateToInt(std::int64_t value)
+{
+    return static_cast<int>(
+        std::clamp<std::int64_t>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
+}
+
 std::int64_t WholeLaps(double position, int segmentCount)
 {
     // Wide enough for the least int divided by -1.
@@ -65,9 +80,13 @@ std::int64_t WholeLaps(double position, int segmentCount)
 
 int FindLeftIndex(const JointList& joints, double position, int side)
 {
+    if (joints.empty())
+    {
+        return -1;
+    }
     const auto isNear = [&](const Joint& joint) { return AreEqual(ColumnValue(joint, side), position); };
     const auto lastNear = std::find_if(joints.rbegin(), joints.rend(), isNear);
-    if (joints.empty() || lastNear != joints.rend())
+    if (lastNear != joints.rend())
     {
         return IndexFromBack(joints, lastNear);
     }
@@ -81,9 +100,13 @@ int FindLeftIndex(const JointList& joints, double position, int side)
 
 int FindRightIndex(const JointList& joints, double position, int side)
 {
+    if (joints.empty())
+    {
+        return -1;
+    }
     const auto isNear = [&](const Joint& joint) { return AreEqual(ColumnValue(joint, side), position); };
     const auto firstNear = std::find_if(joints.begin(), joints.end(), isNear);
-    if (joints.empty() || firstNear != joints.end())
+    if (firstNear != joints.end())
     {
         return IndexFromFront(joints, firstNear);
     }

@@ -18,7 +18,7 @@ enum Side : int
     BothSides = 3
 };
 
-/// The failure value of functions that answer with a joint.
+/// The failure value of functions that answer with positions.
 inline constexpr double NoPosition = -1.0;
 
 /// The value of a joint in the column of a side; every side but 1 means the destination column.
@@ -36,6 +36,12 @@ inline int OtherSide(int side)
 {
     return side == SourceSide ? DestinationSide : SourceSide;
 }
+
+/// Adds a number to the column of a side.
+void ShiftColumn(JointList& joints, int side, double delta);
+
+/// The nearest `int`.
+int SaturateToInt(std::int64_t value);
 
 /// Number of whole laps of `segmentCount` in a position at or above 0, negative below; the count must not be 0.
 std::int64_t WholeLaps(double position, int segmentCount);

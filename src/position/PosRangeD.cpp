@@ -82,8 +82,9 @@ double PosRangeD::NormalizePos(const double& pos, const int& segmentCount)
     {
         return std::isnan(pos) ? pos : NoPosition;
     }
-    // Laps are whole numbers, so each one taken off leaves an exact remainder, as std::fmod does at once; only the step
-    // from below 0 up into the lap rounds. Multiples of the lap end at 0 from below and at the count from above.
+    // Laps are whole numbers, so below 2^53 each one taken off leaves an exact remainder, as std::fmod does at once;
+    // only the step from below 0 up into the lap rounds. Multiples of the lap end at 0 from below and at the count from
+    // above.
     if (pos < 0)
     {
         const double remainder = std::fmod(pos, lap);
@@ -113,7 +114,8 @@ double PosRangeD::NormalizePos(const double& pos, const PosRangeD& range, const 
     {
         return pos;
     }
-    if (segmentCount < 0 || std::isinf(pos))
+    const bool isAtSeam = IsZero(pos) || AreEqual(pos, segmentCount);
+    if (std::isinf(pos) || (segmentCount < 0 && !isAtSeam))
     {
         return NormalizePos(pos, segmentCount);
     }
