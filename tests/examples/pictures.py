@@ -1,6 +1,7 @@
 """What the tests of the programs that write one picture share: reading it, and how the programs treat bad options."""
 
 import os
+import re
 import tempfile
 import xml.etree.ElementTree as ElementTree
 
@@ -21,6 +22,18 @@ def of_class(element, tag, *classes):
 
 def picture_of(run, name):
     return ElementTree.fromstring(run.kept[name])
+
+
+def path_points(path):
+    """Where the strokes of a path end."""
+    numbers = r"-?\d+(?:\.\d+)?"
+    strokes = re.findall("[MLA][^MLAZ]*", path.get("d"))
+    return [tuple(map(float, re.findall(numbers, stroke)[-2:])) for stroke in strokes]
+
+
+def without_numbers(text):
+    """Last digits of numbers may differ from machine to machine."""
+    return re.sub(r"-?\d+(?:\.\d+)?", "#", text)
 
 
 def documented(name):
