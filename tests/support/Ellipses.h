@@ -462,6 +462,13 @@ inline ::testing::AssertionResult GivesAndLeavesOthers(const FourForms& forms, i
     return same ? FourVectorGives(forms, code, points, tolerance) : same;
 }
 
+/// All four outputs: exactly these points and nothing behind them.
+inline ::testing::AssertionResult IsExactly(const FourResult& found, int code, std::vector<DPOINT2> points)
+{
+    points.resize(4, NoPoint());
+    return inner::SameResult("outputs", found.code, code, found.outputs, points, 0);
+}
+
 // ---- Random ellipses ----
 
 /// Semi-axes of one size, in any order, the centre within `spread` sizes of the origin.
