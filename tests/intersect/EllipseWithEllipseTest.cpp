@@ -76,31 +76,6 @@ Ellipse ThroughPointOf(const Ellipse& other, Random& random)
     return Moved(ellipse, shared.x - there.x, shared.y - there.y);
 }
 
-/// Which quarter of an ellipse, between its extreme points, a point of it lies on.
-int QuarterAt(const Ellipse& ellipse, const DPOINT2& point)
-{
-    const double tangent = TangentAt(ellipse, point);
-    return (std::cos(tangent) > 0 ? 1 : 0) + (std::sin(tangent) > 0 ? 2 : 0);
-}
-
-/// Whether two crossings lie on one pair of quarter arcs. Such a pair tells all of them only if it can tell them by the
-/// heights and slopes at its ends.
-bool SharesQuarterArcs(const Ellipse& first, const Ellipse& second, const std::vector<DPOINT2>& crossings)
-{
-    for (std::size_t i = 0; i < crossings.size(); ++i)
-    {
-        for (std::size_t j = 0; j < i; ++j)
-        {
-            if (QuarterAt(first, crossings[i]) == QuarterAt(first, crossings[j]) &&
-                QuarterAt(second, crossings[i]) == QuarterAt(second, crossings[j]))
-            {
-                return true;
-            }
-        }
-    }
-    return false;
-}
-
 /// Whether every point found is one of the crossings.
 bool IsAmong(const std::vector<DPOINT2>& found, const std::vector<DPOINT2>& crossings, double tolerance)
 {

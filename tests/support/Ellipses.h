@@ -182,6 +182,31 @@ inline std::vector<DPOINT2> EllipseMeetsEllipse(const Ellipse& first, const Elli
     return points;
 }
 
+/// Which quarter of an ellipse, between its extreme points, a point of it lies on.
+inline int QuarterAt(const Ellipse& ellipse, const DPOINT2& point)
+{
+    const double tangent = TangentAt(ellipse, point);
+    return (std::cos(tangent) > 0 ? 1 : 0) + (std::sin(tangent) > 0 ? 2 : 0);
+}
+
+/// Whether two crossings lie on one pair of quarter arcs. Such a pair tells all of them only if it can tell them by the
+/// heights and slopes at its ends.
+inline bool SharesQuarterArcs(const Ellipse& first, const Ellipse& second, const std::vector<DPOINT2>& crossings)
+{
+    for (std::size_t i = 0; i < crossings.size(); ++i)
+    {
+        for (std::size_t j = 0; j < i; ++j)
+        {
+            if (QuarterAt(first, crossings[i]) == QuarterAt(first, crossings[j]) &&
+                QuarterAt(second, crossings[i]) == QuarterAt(second, crossings[j]))
+            {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 /// The common points of a beeline and an ellipse, by the parameter along the beeline, in no set order.
 inline std::vector<DPOINT2> BeelineMeetsEllipse(const Beeline& beeline, const Ellipse& ellipse, bool& clear)
 {
