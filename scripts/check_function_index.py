@@ -3,8 +3,9 @@
 
   scripts/check_function_index.py [SOURCE_TREE]
 
-Every exported function has a row in the table, every row is an exported function, its header names it, and the test files of
-the row exist and use it. Constructors, destructor and assignment of a class share the row of the class's own name.
+Every exported function has a row in the table, every row is an exported function, its header names it, and the test
+files of the row exist and use it. Constructors, destructor and assignment of a class share the row of the class's own
+name.
 """
 
 import os

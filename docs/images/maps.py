@@ -53,16 +53,15 @@ def map_composition():
             ribbon(page, upper, lower, (first[0], second[0]), (first[1], second[1]), colour)
     draw(source, middle, a, SKY)
     draw(middle, destination, b, ORANGE)
-    tops = [bar.top + bar.height / 2 for bar in (source, middle, destination)]
     # A joint of b, and the place of a's source that lands on it: 1 + (1.5 - 1) / 2.
     page.line(source.x(1.25), source.top + 12, middle.x(1.5), middle.top, VERMILLION, 2, "5 3")
     page.line(middle.x(1.5), middle.top + 12, destination.x(3), destination.top, VERMILLION, 2)
     # A joint of a, and where b carries it: 3 / 1.5.
     page.line(source.x(1), source.top + 12, middle.x(1), middle.top, BLUE, 2)
     page.line(middle.x(1), middle.top + 12, destination.x(2), destination.top, BLUE, 2, "5 3")
-    for bar, y, positions in ((source, tops[0], (1, 1.25)), (middle, tops[1], (1, 1.5)), (destination, tops[2], (2, 3))):
-        page.dot(bar.x(positions[0]), y, fill=BLUE)
-        page.dot(bar.x(positions[1]), y, fill=VERMILLION)
+    for bar, of_a, of_b in ((source, 1, 1.25), (middle, 1, 1.5), (destination, 2, 3)):
+        page.dot(bar.x(of_a), bar.top + 6, fill=BLUE)
+        page.dot(bar.x(of_b), bar.top + 6, fill=VERMILLION)
     page.text(source.x(0.45), 138, "a", "bold middle", BLUE)
     page.text(source.x(0.45), 244, "b", "bold middle", "#8a5c00")
 

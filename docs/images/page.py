@@ -25,7 +25,8 @@ class Page:
     def __init__(self, width, height, title):
         size = (number(width), number(height))
         self.lines = [
-            '<svg xmlns="http://www.w3.org/2000/svg" width="%s" height="%s" viewBox="0 0 %s %s" role="img">' % (size + size),
+            '<svg xmlns="http://www.w3.org/2000/svg" width="%s" height="%s" viewBox="0 0 %s %s" role="img">'
+            % (size + size),
             "<title>%s</title>" % escape(title), "<style>\n%s</style>" % STYLE,
             '<rect width="%s" height="%s" fill="#ffffff"/>' % size]
 
@@ -48,7 +49,8 @@ class Page:
                  stroke_dasharray=dashes, stroke_linejoin="round", stroke_linecap="round")
 
     def polyline(self, points, closed=False, **style):
-        self.path("M" + "L".join("%s %s" % (number(x), number(y)) for x, y in points) + ("Z" if closed else ""), **style)
+        data = "M" + "L".join("%s %s" % (number(x), number(y)) for x, y in points)
+        self.path(data + ("Z" if closed else ""), **style)
 
     def dot(self, x, y, fill=DARK, radius=4.5, stroke="#ffffff"):
         self.add("circle", cx=x, cy=y, r=radius, fill=fill, stroke=stroke, stroke_width=1.5)

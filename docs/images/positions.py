@@ -19,7 +19,7 @@ def positions():
         page.text(corner[0] + shift[0], corner[1] + shift[1], name, "bold middle")
         following = corners[(i + 1) % 4]
         middle, ahead = between(corner, following, 0.5), between(corner, following, 0.56)
-        page.arrow(*between(corner, following, 0.5), *ahead, stroke=GREY, width=2.5, head=12)
+        page.arrow(*middle, *ahead, stroke=GREY, width=2.5, head=12)
         inward = between(middle, (216, 176), 0.2 if i % 2 == 0 else 0.34)
         page.text(inward[0], inward[1] + 5, "segment %d" % i, "small middle")
     place = between(corners[2], corners[3], 0.25)

@@ -14,8 +14,8 @@ r, r^2 = 25000, x^2/4 + y^2 = 10000 and x^2 + y^2 = 25000 give x^2 = 20000, y^2 
 The ellipse at (-60, 0) and the circle of radius 100 round (140, 0): with u counted from the ellipse's centre,
 u^2/4 = (u - 200)^2 for the same y, so u = 400/3 and y^2 = 10000 (1 - 4/9).
 
-Touching: (160, 60) lies on the ellipse, since 0.8^2 + 0.6^2 = 1; from (-160, -60) and from its mirror image at (160, 60)
-this is (0, 0), from (-100, -40) it is (60, 20).
+Touching: (160, 60) lies on the ellipse, since 0.8^2 + 0.6^2 = 1; from (-160, -60) and from its mirror image at
+(160, 60) this is (0, 0), from (-100, -40) it is (60, 20).
 """
 
 import math
