@@ -9,10 +9,9 @@ using namespace math::test;
 namespace
 {
 
-// Points of searches count as on an ellipse of this size, but their distance from the centre of an arc is tested to 1e-9:
-// circles and stretches give exact points, and the halvings here end close enough. The circle of radius 3 about (1, 2) and
-// the round ellipse of radius 2 about (4, 2): x - 1 = (9 + 9 - 4) / 6 = 7/3, y - 2 = ±sqrt(9 - 49/9) = ±sqrt(32)/3. Seen from
-// (1, 2) at ±0.680, from (4, 2) at π ∓ 1.231, that is 1.911 and 4.372.
+// The circle of radius 3 about (1, 2) and the round ellipse of radius 2 about (4, 2), whose points are exact:
+// x - 1 = (9 + 9 - 4) / 6 = 7/3, y - 2 = ±sqrt(9 - 49/9) = ±sqrt(32)/3. Seen from (1, 2) they lie at ±0.680, from (4,
+// 2) at π ∓ 1.231, that is 1.911 and 4.372.
 const Ellipse round{{4, 2}, 2, 2, 0.3};
 const double height = std::sqrt(32.0) / 3;
 const DPOINT2 upper = {10.0 / 3, 2 + height};

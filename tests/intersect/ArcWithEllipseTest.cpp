@@ -9,8 +9,8 @@ using namespace math::test;
 namespace
 {
 
-// x²/25 + y²/9 = 1 and (x - 1)² + y² = 9.76 meet at x = 3 and x = 1/8, y = ±2.4 and ±2.999. Seen from (1, 0), the centre of
-// the arc: 0.876, 1.855, 4.429 and 5.407.
+// x²/25 + y²/9 = 1 and (x - 1)² + y² = 9.76 meet at x = 3 and x = 1/8, y = ±2.4 and ±2.999. Seen from (1, 0), the
+// centre of the arc: 0.876, 1.855, 4.429 and 5.407.
 const Ellipse wide{{0, 0}, 5, 3, 0};
 const double radius = std::sqrt(9.76);
 const double upperY = 3 * std::sqrt(1 - 1.0 / 1600);
@@ -109,7 +109,8 @@ TEST(IntersectArcWithEllipse, EndsCountWithinTheToleranceOfADistance)
 
 TEST(IntersectArcWithEllipse, OnlyTheDirectionOfAPointIsTested)
 {
-    // A steep crossing is found with an error of its slope times 1e-9, which takes it off the circle: it counts all the same.
+    // A steep crossing is found with an error of its slope times 1e-9, which takes it off the circle: it counts all the
+    // same.
     Random random(131);
     int off = 0;
     for (int i = 0; i < 20000 && off < 20; ++i)

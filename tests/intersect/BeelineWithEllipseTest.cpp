@@ -119,8 +119,8 @@ TEST(IntersectBeelineWithEllipse, WhenBothTouchingPointsAreNearTheFirstIsGiven)
 
 TEST(IntersectBeelineWithEllipse, JustOffATangencyTheEquationCanStillHaveADoubleRoot)
 {
-    // a = 1, b = 100 and y = 100 + h: coefficients (10000, 0, 200 h), a constant of 0.02 h after scaling, which counts as
-    // nothing up to 1e-9, that is up to h = 5e-8. The point is then that of the beeline.
+    // a = 1, b = 100 and y = 100 + h: coefficients (10000, 0, 200 h), a constant of 0.02 h after scaling, which counts
+    // as nothing up to 1e-9, that is up to h = 5e-8. The point is then that of the beeline.
     const Ellipse tall{{0, 0}, 1, 100, 0};
     EXPECT_TRUE(GivesPoints({{3, 100 + 2e-8}, 0}, tall, {At(0, 100 + 2e-8)}, 0));
     EXPECT_TRUE(GivesPoints({{3, 100 + 4.9e-8}, 0}, tall, {At(0, 100 + 4.9e-8)}, 0));
@@ -319,8 +319,8 @@ TEST(IntersectBeelineWithEllipse, FindsTheRootsAlongTheBeeline)
         {
             found = {result.first, result.second};
         }
-        // A discriminant of 1e-4 of the greatest leaves half of the digits of its root in the worst case, and an angle near
-        // the vertical turns its last digits into as many of the slope.
+        // A discriminant of 1e-4 of the greatest leaves half of the digits of its root in the worst case, and an angle
+        // near the vertical turns its last digits into as many of the slope.
         ASSERT_TRUE(SameSet(found, expected, 1e-10 * size)) << i;
         for (const DPOINT2& point : found)
         {
@@ -343,8 +343,8 @@ TEST(IntersectBeelineWithEllipse, TurnsWithTheFigure)
         {
             continue;
         }
-        // A quarter turn takes (x, y) to (-y, x). The line keeps its direction in the own frame, so the order stays but for
-        // lines that pass from 0 to π there.
+        // A quarter turn takes (x, y) to (-y, x). The line keeps its direction in the own frame, so the order stays but
+        // for lines that pass from 0 to π there.
         const Ellipse turned{{-ellipse.centre.y, ellipse.centre.x}, ellipse.a, ellipse.b, ellipse.rotation + HalfPi};
         const BeelineResult result = Meet(beeline, ellipse);
         const BeelineResult after = Meet({{-beeline.point.y, beeline.point.x}, beeline.angle + HalfPi}, turned);

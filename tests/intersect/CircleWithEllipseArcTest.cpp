@@ -10,8 +10,8 @@ namespace
 {
 
 // x²/500² + y²/300² = 1 and (x - 100)² + y² = 97600 meet at x = 300 and x = 12.5, y = ±240 and ±299.906. Seen from the
-// ellipse's centre: 0.675, 1.529, 4.754 and 5.608. On figures of this size what a search leaves of a point counts as on the
-// curve.
+// ellipse's centre: 0.675, 1.529, 4.754 and 5.608. On figures of this size what a search leaves of a point counts as on
+// the curve.
 const Ellipse wide{{0, 0}, 500, 300, 0};
 const Circle circle{{100, 0}, std::sqrt(97600.0)};
 const double upperY = 300 * std::sqrt(1 - 1.0 / 1600);
@@ -77,8 +77,8 @@ TEST(IntersectCircleWithEllipseArc, OnItsOwnCircleTheArcHasNoSinglePoint)
 
 TEST(IntersectCircleWithEllipseArc, ArcsOfEqualSemiAxesAreThoseOfACircle)
 {
-    // Unit circles about (0, 0) and (1, 0): seen from (1, 0) the upper point lies at 2π/3, the lower at 4π/3. The arc counts
-    // from the rotation.
+    // Unit circles about (0, 0) and (1, 0): seen from (1, 0) the upper point lies at 2π/3, the lower at 4π/3. The arc
+    // counts from the rotation.
     const double height = std::sqrt(0.75);
     const Circle unit{{0, 0}, 1};
     const Ellipse round{{1, 0}, 1, 1, 0.5};

@@ -86,7 +86,8 @@ TEST(IntersectCircleWithEllipse, AFlatEllipseIsAStretchBetweenItsVertices)
     EXPECT_TRUE(GivesAndLeavesOthers(Meeting(unit, Ellipse{{0, 0}, 0.9, 0, 0}), 0, {})) << "inside";
     EXPECT_TRUE(GivesAndLeavesOthers(Meeting(unit, Ellipse{{0, 2}, 3, 0, 0}), 0, {})) << "beside";
     EXPECT_TRUE(GivesAndLeavesOthers(Meeting(unit, Ellipse{{1, 0}, 0.5, 0, 0}), 1, {{1, 0}}, 1e-15)) << "half in";
-    // Along (0.6, 0.8) from (1, 1): both ends, (1.6, 1.8) and (0.4, 0.2), and the circle through one point between them.
+    // Along (0.6, 0.8) from (1, 1): both ends, (1.6, 1.8) and (0.4, 0.2), and the circle through one point between
+    // them.
     const double tilt = std::atan2(0.8, 0.6);
     EXPECT_TRUE(
         GivesAndLeavesOthers(Meeting(Circle{{-0.8, -1.4}, 2.5}, Ellipse{{1, 1}, 1, 0, tilt}), 1, {{0.7, 0.6}}, 1e-12));

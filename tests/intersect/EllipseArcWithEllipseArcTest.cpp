@@ -10,8 +10,8 @@ using namespace math::test;
 namespace
 {
 
-// The crossings (±s, ±s), s² = 8000, of x²/200² + y²/100² = 1 and its quarter turn. Their polar angles on the flat one, and
-// on the upright one less π/2: π/4 (++), 3π/4 (-+), 5π/4 (--), 7π/4 (+-).
+// The crossings (±s, ±s), s² = 8000, of x²/200² + y²/100² = 1 and its quarter turn. Their polar angles on the flat one,
+// and on the upright one less π/2: π/4 (++), 3π/4 (-+), 5π/4 (--), 7π/4 (+-).
 const Ellipse flat{{0, 0}, 200, 100, 0};
 const Ellipse upright{{0, 0}, 200, 100, HalfPi};
 const double s = std::sqrt(8000.0);
@@ -86,8 +86,8 @@ TEST(IntersectEllipseArcWithEllipseArc, OfMoreThanFourPointsTheFirstFourAreLooke
 
 TEST(IntersectEllipseArcWithEllipseArc, OnSmallFiguresACrossingFoundTooCoarselyLiesOnNeither)
 {
-    // A point is on a curve when (u/a)² + (v/b)² is within 1e-9 of 1, which on figures of size 1 is less than what a search
-    // leaves: its points are found, and then dropped.
+    // A point is on a curve when (u/a)² + (v/b)² is within 1e-9 of 1, which on figures of size 1 is less than what a
+    // search leaves: its points are found, and then dropped.
     const Ellipse small{{0, 0}, 2, 1, 0};
     const Ellipse smallUpright{{0, 0}, 2, 1, HalfPi};
     const FourResult whole = OutputsOf(Meeting(small, smallUpright));

@@ -7,9 +7,9 @@
 using namespace math;
 using namespace math::test;
 
-// The searches of the quarter arc method halve a range towards a point found on a vertical. A vertical that misses an arc by
-// rounding leaves the last point where it was, and the ends of the range may then never meet. Such a search ends where it
-// repeats itself; one that ends of its own accord gives exactly what it gives without a guard.
+// The searches of the quarter arc method halve a range towards a point found on a vertical. A vertical that misses an
+// arc by rounding leaves the last point where it was, and the ends of the range may then never meet. Such a search ends
+// where it repeats itself; one that ends of its own accord gives exactly what it gives without a guard.
 
 namespace
 {

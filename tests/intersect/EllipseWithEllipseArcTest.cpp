@@ -10,8 +10,9 @@ using namespace math::test;
 namespace
 {
 
-// x²/4 + y² = 1 and its quarter turn meet at (±s, ±s), s² = 4/5, for the flat one counter-clockwise from the first quadrant.
-// The arc lies on the upright one, whose own x axis points up: there the four points lie at the polar angles 7π/4 (++), π/4
+// x²/4 + y² = 1 and its quarter turn meet at (±s, ±s), s² = 4/5, for the flat one counter-clockwise from the first
+// quadrant. The arc lies on the upright one, whose own x axis points up: there the four points lie at the polar angles
+// 7π/4 (++), π/4
 // (-+), 3π/4 (--) and 5π/4 (+-).
 const Ellipse flat{{0, 0}, 2, 1, 0};
 const Ellipse upright{{0, 0}, 2, 1, HalfPi};
@@ -76,9 +77,9 @@ TEST(IntersectEllipseWithEllipseArc, FiguresApartHaveNoPoint)
 
 TEST(IntersectEllipseWithEllipseArc, ASweepBelowZeroKeepsTheEndsAlone)
 {
-    // From the crossing (--) clockwise to the crossing (-+): both ends, though (++) lies on no such arc either way.
     EXPECT_TRUE(GivesFour(Meeting(flat, ArcOf(2, -1)), 0, {}));
     EXPECT_TRUE(GivesFour(Meeting(flat, ArcOf(3, -3)), 0, {})) << "two crossings inside";
+    // From the crossing (--) clockwise to the crossing (-+).
     const FourResult whole = OutputsOf(Meeting(flat, upright));
     ASSERT_EQ(whole.code, 4);
     const auto polarOf = [](const DPOINT2& point) { return std::atan2(point.y, point.x) - HalfPi; };
@@ -93,8 +94,8 @@ TEST(IntersectEllipseWithEllipseArc, ASweepBelowZeroKeepsTheEndsAlone)
 
 TEST(IntersectEllipseWithEllipseArc, DirectionsAreExactAndEndsHaveATolerance)
 {
-    // With the joint (0, 1) of the flat ellipse as crossing the point is exact to a rounding unit. The circle of radius √2
-    // about (1, 0) has it at the polar angle 3π/4.
+    // With the joint (0, 1) of the flat ellipse as crossing the point is exact to a rounding unit. The circle of radius
+    // √2 about (1, 0) has it at the polar angle 3π/4.
     const Circle circle{{1, 0}, std::sqrt(2.0)};
     const auto code = [&](double start, double sweep) {
         return OutputsOf(Meeting(flat, EllipseArc{AsEllipse(circle), start, sweep})).code;

@@ -189,20 +189,21 @@ TEST(IntersectEllipseWithEllipse, TheQuickTestsReadAAsTheGreaterSemiAxis)
 
 TEST(IntersectEllipseWithEllipse, TheQuickTestsAreExact)
 {
-    // Circles that touch, from outside or inside, pass them and are found by the search; a rounding unit further they do not.
-    const Ellipse unit{{0, 0}, 1, 1, 0};
-    for (const bool swapped : {false, true})
-    {
-        const auto code = [&](const Ellipse& other) {
-            return OutputsOf(swapped ? Meeting(other, unit) : Meeting(unit, other)).code;
-        };
-        reference::QuarterArcMethod method;
-        const Ellipse touching{{3, 0}, 2, 2, 0};
-        EXPECT_EQ(code(touching),
-                  (swapped ? WrittenOut(touching, unit, method) : WrittenOut(unit, touching, method)).code);
-        EXPECT_EQ(code({{Next(3), 0}, 2, 2, 0}), 0);
-        EXPECT_EQ(code({{2, 0}, Next(3), Next(3), 0}), 0);
-    }
+    // Circles that touch in a top or a bottom pass them and are found by the search; a rounding unit further they do
+    // not.
+    const auto code = [](const Circle& first, const Circle& second) {
+        return OutputsOf(Meeting(AsEllipse(first), AsEllipse(second))).code;
+    };
+    const Circle unit{{0, 0}, 1};
+    EXPECT_TRUE(GivesFour(Meeting(AsEllipse(unit), AsEllipse({{0, 3}, 2})), 1, {At(0, 1)}, 1e-15));
+    EXPECT_EQ(code(unit, {{0, Next(3)}, 2}), 0);
+    EXPECT_EQ(code({{0, 3}, 2}, unit), 1);
+    EXPECT_EQ(code({{0, Next(3)}, 2}, unit), 0);
+    EXPECT_TRUE(GivesFour(Meeting(AsEllipse({{0, 1}, 1}), AsEllipse({{0, 0}, 2})), 1, {At(0, 2)}, 1e-15));
+    EXPECT_EQ(code({{0, 1}, 1}, {{0, 0}, Next(2)}), 0) << "the first inside";
+    EXPECT_EQ(code({{0, 0}, 2}, {{0, 1}, 1}), 1);
+    EXPECT_EQ(code({{0, 0}, Next(2)}, {{0, 1}, 1}), 0) << "the second inside";
+    EXPECT_EQ(code({{0, Stepped(1, -4)}, 1}, {{0, 0}, 2}), 0);
 }
 
 // ---- Points by hand ----
@@ -232,20 +233,28 @@ TEST(IntersectEllipseWithEllipse, AnEllipseAndACircleMeetInFourKnownPoints)
                           {{10, -1.6}, {7.125, y - 4}, {7.125, -y - 4}, {10, -6.4}}, 3e-8));
 }
 
-TEST(IntersectEllipseWithEllipse, TwoArcsMayCrossTwice)
+TEST(IntersectEllipseWithEllipse, ACircleDipsIntoTheTop)
 {
-    // A circle of radius 0.75 about (0, 1.6) dips into the top of the ellipse: with y = 1.6 - sqrt(0.5625 - x²) and
-    // x² = 4 - 4 y², 3 y² + 3.2 y - 5.9975 = 0, y = 0.97767, inside the right top quarter only its own lower ones.
+    // Radius 0.75 about (0, 1.6): with (1.6 - y)² = 0.5625 - x² and x² = 4 - 4 y², 3 y² + 3.2 y - 5.9975 = 0, y =
+    // 0.978.
     const double y = (-3.2 + std::sqrt(3.2 * 3.2 + 12 * 5.9975)) / 6;
     const double x = 2 * std::sqrt(1 - y * y);
     EXPECT_TRUE(GivesFour(Meeting(flat, AsEllipse({{0, 1.6}, 0.75})), 2, {{x, y}, {-x, y}}, 1e-8));
-    // A circle that cuts into the slope of one quarter: about (2.4, 1.2) with radius 1.2, both points on that quarter.
+}
+
+TEST(IntersectEllipseWithEllipse, TwoQuarterArcsMayCrossTwice)
+{
+    // A circle that cuts into the upper right quarter of the ellipse with its own lower left one. The left crossing
+    // comes first.
+    const Ellipse ellipse{{0, 0}, 5, 3, 0};
+    const Ellipse circle = AsEllipse({{4.3, 2.2}, 0.6});
     bool clear = true;
-    const Ellipse cutting = AsEllipse({{2.4, 1.2}, 1.4});
-    const auto expected = EllipseMeetsEllipse(flat, cutting, clear);
-    ASSERT_EQ(expected.size(), 2U);
+    auto crossings = EllipseMeetsEllipse(ellipse, circle, clear);
     ASSERT_TRUE(clear);
-    EXPECT_TRUE(SameSet(OutputsOf(Meeting(flat, cutting)).Points(), expected, 1e-8));
+    ASSERT_TRUE(SharesQuarterArcs(ellipse, circle, crossings));
+    std::sort(crossings.begin(), crossings.end(), [](const DPOINT2& a, const DPOINT2& b) { return a.x < b.x; });
+    EXPECT_TRUE(GivesFour(Meeting(ellipse, circle), 2, crossings, 1e-8));
+    EXPECT_TRUE(GivesFour(Meeting(circle, ellipse), 2, crossings, 1e-8));
 }
 
 TEST(IntersectEllipseWithEllipse, ACrossingWhereArcsJoinIsGivenOnce)
@@ -258,8 +267,8 @@ TEST(IntersectEllipseWithEllipse, ACrossingWhereArcsJoinIsGivenOnce)
 
 TEST(IntersectEllipseWithEllipse, FiguresThatTouchInsideQuarterArcsMeetOnce)
 {
-    // At (4, 1.8) of x²/25 + y²/9 = 1 the normal has the direction (4/25, 1.8/9) = (0.16, 0.2). Where slopes agree to 1e-9
-    // the x of the touching point is found to a like amount.
+    // At (4, 1.8) of x²/25 + y²/9 = 1 the normal has the direction (4/25, 1.8/9) = (0.16, 0.2). Where slopes agree to
+    // 1e-9 the x of the touching point is found to a like amount.
     const Ellipse ellipse{{0, 0}, 5, 3, 0};
     const DPOINT2 touching = {4, 1.8};
     const double norm = std::hypot(0.16, 0.2);
@@ -305,8 +314,8 @@ TEST(IntersectEllipseWithEllipse, TouchingWhereQuarterArcsEndIsLeftToTheLastBits
 
 TEST(IntersectEllipseWithEllipse, ABisectionOfNoWidthGivesTheOrigin)
 {
-    // The joints of a quarter turn that is a rounding unit off lie a rounding unit off: verticals through them miss the other
-    // figure, which leaves a range of no width. Its result is the origin, on neither curve.
+    // The joints of a quarter turn that is a rounding unit off lie a rounding unit off: verticals through them miss the
+    // other figure, which leaves a range of no width. Its result is the origin, on neither curve.
     const Ellipse a{{-1, -1.5}, 2, 1, -1.570796326794897};
     const Ellipse b{{0, -1.5}, 1.5, 0.5, -3.1415926535897944};
     reference::QuarterArcMethod method;
@@ -362,8 +371,8 @@ TEST(IntersectEllipseWithEllipse, OfThreeCrossingsOfTwoQuarterArcsOneIsFound)
 
 TEST(IntersectEllipseWithEllipse, MergingIsAMatterOfTheTolerance)
 {
-    // The bottom (d, 1) of a circle on the top (0, 1) of the ellipse: at such a d the heights there are the same, so both
-    // joints are told, as one point or as two.
+    // The bottom (d, 1) of a circle on the top (0, 1) of the ellipse: at such a d the heights there are the same, so
+    // both joints are told, as one point or as two.
     for (const double offset : {0.5e-9, 0.9e-9, 0.99e-9})
     {
         const Ellipse circle = AsEllipse({{offset, 1.5}, 0.5});
@@ -495,8 +504,8 @@ TEST(IntersectEllipseWithEllipse, FindsTheZerosAlongTheFirst)
         const Ellipse b = LongAxisFirst(RandomEllipse(random, size));
         bool clear = true;
         const auto expected = EllipseMeetsEllipse(a, b, clear);
-        // A search ends when heights differ by less than 1e-9, or with 1e-9 of width left: an error of 1e-9 over the sine of
-        // the angle between the curves, or 1e-9 times their slope.
+        // A search ends when heights differ by less than 1e-9, or with 1e-9 of width left: an error of 1e-9 over the
+        // sine of the angle between the curves, or 1e-9 times their slope.
         double tolerance = 1e-12 * size;
         for (const DPOINT2& point : expected)
         {
@@ -544,8 +553,8 @@ TEST(IntersectEllipseWithEllipse, PointsLieOnBothCurves)
         const Ellipse b = LongAxisFirst(RandomEllipse(random, size));
         for (const DPOINT2& point : OutputsOf(Meeting(a, b)).Points())
         {
-            // A crossing is the mean of two points of one vertical, less than 1e-9 apart or, where one of the curves is steep,
-            // 1e-9 times its slope. Rounding of the size adds to it in the same way.
+            // A crossing is the mean of two points of one vertical, less than 1e-9 apart or, where one of the curves is
+            // steep, 1e-9 times its slope. Rounding of the size adds to it in the same way.
             const double cosine =
                 std::min(std::abs(std::cos(TangentAt(a, point))), std::abs(std::cos(TangentAt(b, point))));
             const double tolerance = (1e-9 + 1e-13 * size) / std::max(cosine, 1e-5);

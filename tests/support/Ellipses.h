@@ -129,7 +129,8 @@ inline std::vector<DPOINT2> KeepOnArc(const std::vector<DPOINT2>& points, const 
 
 // ---- A second way to common points ----
 
-/// Zeros of a function of period 2π by sampling and halving; clear when no sample lies near zero where the function turns.
+/// Zeros of a function of period 2π by sampling and halving; clear when no sample lies near zero where the function
+/// turns.
 inline std::vector<long double> ZerosOfTurn(const std::function<long double(long double)>& function, bool& clear)
 {
     constexpr int samples = 720;
