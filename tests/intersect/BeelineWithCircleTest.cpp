@@ -240,6 +240,12 @@ TEST(IntersectBeelineWithCircleQuick, ABeelineWithoutDistanceCountsTwo)
     EXPECT_TRUE(QuickTestGives(Meeting(Beeline{{0, 0}, InvalidDouble}, unitCircle), 2));
 }
 
+TEST(IntersectBeelineWithCircleQuick, AnInfiniteDistanceIsNotAboveAnInfiniteRadius)
+{
+    EXPECT_TRUE(QuickTestGives(Meeting(HorizontalAt(0), Circle{{0, Infinity}, 1}), 0));
+    EXPECT_TRUE(QuickTestGives(Meeting(HorizontalAt(0), Circle{{0, Infinity}, Infinity}), 2));
+}
+
 TEST(IntersectBeelineWithCircleQuick, AgreesWithTheFullFormAwayFromTangency)
 {
     Random random(143);

@@ -213,6 +213,13 @@ TEST(IntersectCircleWithCircleQuick, ComparesNegativeRadiiLikeAnyOther)
     EXPECT_TRUE(Answers(0, -1, -1, -1));
 }
 
+TEST(IntersectCircleWithCircleQuick, AnInfiniteDistanceIsNotAboveAnInfiniteSum)
+{
+    EXPECT_TRUE(Answers(Infinity, 1, 2, 0));
+    EXPECT_TRUE(Answers(Infinity, Infinity, 2, 2));
+    EXPECT_TRUE(Answers(1, Infinity, 2, 0)) << "one inside the other";
+}
+
 TEST(IntersectCircleWithCircleQuick, AgreesWithTheFullFormAwayFromEveryTangencyAndCentre)
 {
     Random random(182);

@@ -96,6 +96,14 @@ TEST(SegmentGetNearestPoint, TheEndsOfALineThatRoundingMakesEquallyFarGiveTheEnd
     EXPECT_TRUE(Is(NearestOn(line, At(-1e20, 0)), At(2, 0), 1)) << "the squares of both distances are 1e40";
 }
 
+TEST(SegmentGetNearestPoint, TheParameterOfTheStartIsAPositiveZero)
+{
+    // Both products of the projection are -0.
+    const Nearest nearest = NearestOn(CSegment(At(0, 0), At(-2, -3)), At(0, 0));
+    EXPECT_TRUE(SameBits(nearest.t, 0.0));
+    EXPECT_EQ(nearest.point, At(0, 0));
+}
+
 TEST(SegmentGetNearestPoint, OppositeAnEndOfALineRoundingDoesNotLeaveTheSegment)
 {
     // The foot falls on the end; its ratio comes out as 1 and a rounding unit now and then, which is cut to 1.
@@ -279,6 +287,22 @@ TEST(SegmentGetNearestPoint, InAGapNarrowerThanTheToleranceTheNearerEndDecides)
     }
 }
 
+TEST(SegmentGetNearestPoint, EndsInOneDirectionAreAWholeTurnApartCounterclockwise)
+{
+    // A bulge so great that the sweep is 2π in doubles. The circle lies on the right of the short chord, and both ends
+    // lie to the left of its centre, in the direction π.
+    const DPOINT2 start = At(0, 0);
+    const DPOINT2 end = At(0, 1e-6);
+    DPOINT2 middle;
+    double wide = 0;
+    ASSERT_TRUE(SolveArc(start, end, 1e17, &middle, &wide, nullptr, nullptr));
+    ASSERT_EQ(ComputeAngle(start.x - middle.x, start.y - middle.y), Pi);
+    ASSERT_EQ(ComputeAngle(end.x - middle.x, end.y - middle.y), Pi);
+    const DPOINT2 above = At(middle.x, middle.y + 2 * wide);
+    EXPECT_TRUE(Near(NearestOn(CSegment(start, end, 1e17), above).t, 0.75, 1e-12)) << "from π over 0 to π/2";
+    EXPECT_EQ(NearestOn(CSegment(end, start, -1e17), above).t, 1) << "clockwise they leave no way between them";
+}
+
 TEST(SegmentGetNearestPoint, TheCentreOfAnArcGivesItsEnd)
 {
     EXPECT_TRUE(Is(NearestOn(upperHalf, At(0, 0)), At(-1, 0), 1));
@@ -299,6 +323,13 @@ TEST(SegmentGetNearestPoint, APointBesideTheCentreHasADirection)
     EXPECT_TRUE(Is(NearestOn(upperHalf, At(3 * unit, 0)), At(1, 0), 0)) << "the start is nearer by two roundings";
     EXPECT_TRUE(Is(NearestOn(upperHalf, At(0, 5 * unit)), At(0, 1), 0.5, 1e-15));
     EXPECT_TRUE(Is(NearestOn(upperHalf, At(0, 1e-12)), At(0, 1), 0.5, 1e-15));
+    // The bound itself still counts. The computed centre lies 6e-17 below (0, 0).
+    DPOINT2 computed;
+    ASSERT_TRUE(SolveArc(upperHalf.start, upperHalf.end, upperHalf.bulge, &computed, nullptr, nullptr, nullptr));
+    const DPOINT2 onBound = At(computed.x, computed.y + 4 * unit);
+    ASSERT_EQ(D2GetDistance(onBound, computed), 4 * unit);
+    EXPECT_TRUE(Is(NearestOn(upperHalf, onBound), At(-1, 0), 1));
+    EXPECT_TRUE(Is(NearestOn(upperHalf, At(computed.x, Next(onBound.y + unit * 0x1p-50))), At(0, 1), 0.5, 1e-15));
     // About (0, 0) with radius 1024 the same number of units is 1024 times as wide.
     const CSegment wide(At(1024, 0), At(-1024, 0), 1);
     EXPECT_TRUE(Is(NearestOn(wide, At(0, 1024 * 3 * unit)), At(-1024, 0), 1));
