@@ -12,10 +12,18 @@ if(QORMATH_WARNINGS_AS_ERRORS)
     $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Werror> $<$<CXX_COMPILER_ID:MSVC>:/WX>)
 endif()
 
+# A program need not be linked again when only a shared library that it uses has changed.
+set(CMAKE_LINK_DEPENDS_NO_SHARED ON)
+
+# A finding ends the program: none is reported and then passed over.
 if(QORMATH_SANITIZE)
   string(REPLACE ";" "," _qormath_sanitizers "${QORMATH_SANITIZE}")
   target_compile_options(QorMathCompileOptions INTERFACE
     -fsanitize=${_qormath_sanitizers} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+  if("integer" IN_LIST QORMATH_SANITIZE)
+    target_compile_options(QorMathCompileOptions INTERFACE
+      "-fsanitize-ignorelist=${CMAKE_CURRENT_LIST_DIR}/sanitizer_ignorelist.txt")
+  endif()
   target_link_options(QorMathCompileOptions INTERFACE -fsanitize=${_qormath_sanitizers})
   unset(_qormath_sanitizers)
 endif()
