@@ -8,6 +8,7 @@
 #include "primitives/Tolerance.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <cstddef>
 
@@ -77,29 +78,31 @@ bool IsTooFarOrInside(const Ellipse& first, const Ellipse& second)
     return distance > first.a + second.a || second.b > first.a + distance || first.b > distance + second.a;
 }
 
-/// Drops every point that coincides with an earlier one; the order of the others stays.
-void MergeCoinciding(std::vector<DPOINT2>& points)
+/// The points of sixteen pairs of quarter arcs, each of which has two at most.
+struct PointsOfPairs
 {
-    std::size_t kept = 0;
-    for (const DPOINT2 point : points)
+    std::array<DPOINT2, 32> points;
+    std::size_t count = 0;
+
+    /// Adds a point unless it coincides with an earlier one.
+    void Add(const DPOINT2& point)
     {
-        const auto keptEnd = points.begin() + static_cast<std::ptrdiff_t>(kept);
+        const auto end = points.begin() + static_cast<std::ptrdiff_t>(count);
         const auto coincides = [&](const DPOINT2& earlier) { return detail::CoincideByCoordinates(earlier, point); };
-        if (std::none_of(points.begin(), keptEnd, coincides))
+        if (std::none_of(points.begin(), end, coincides))
         {
-            points[kept++] = point;
+            points[count++] = point;
         }
     }
-    points.resize(kept);
-}
+};
 
-std::vector<DPOINT2> MeetQuarterArcs(const Ellipse& first, const Ellipse& second)
+PointsOfPairs MeetQuarterArcs(const Ellipse& first, const Ellipse& second)
 {
     const detail::QuarterArcs arcsOfFirst =
         detail::SplitEllipseIntoQuarterArcs(first.centre, first.a, first.b, first.rotation);
     const detail::QuarterArcs arcsOfSecond =
         detail::SplitEllipseIntoQuarterArcs(second.centre, second.a, second.b, second.rotation);
-    std::vector<DPOINT2> points;
+    PointsOfPairs shared;
     for (const detail::EllipseQuarterArc& arcOfFirst : arcsOfFirst)
     {
         for (const detail::EllipseQuarterArc& arcOfSecond : arcsOfSecond)
@@ -107,16 +110,15 @@ std::vector<DPOINT2> MeetQuarterArcs(const Ellipse& first, const Ellipse& second
             const detail::TwoPoints found = detail::IntersectQuarterArcs(arcOfFirst, arcOfSecond);
             if (found.count > 0)
             {
-                points.push_back(found.first);
+                shared.Add(found.first);
             }
             if (found.count > 1)
             {
-                points.push_back(found.second);
+                shared.Add(found.second);
             }
         }
     }
-    MergeCoinciding(points);
-    return points;
+    return shared;
 }
 
 /// The result of two ellipses and the first four of their points.
@@ -131,9 +133,9 @@ int MeetEllipses(const Ellipse& first, const Ellipse& second, FourPoints& firstF
     {
         return 0;
     }
-    const std::vector<DPOINT2> points = MeetQuarterArcs(first, second);
-    std::copy_n(points.begin(), std::min(points.size(), firstFour.size()), firstFour.begin());
-    return static_cast<int>(points.size());
+    const PointsOfPairs shared = MeetQuarterArcs(first, second);
+    std::copy_n(shared.points.begin(), std::min(shared.count, firstFour.size()), firstFour.begin());
+    return static_cast<int>(shared.count);
 }
 
 /// Two arcs of one ellipse: they miss, share one end or both, or overlap along a length.

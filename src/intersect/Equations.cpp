@@ -3,6 +3,7 @@
 #include "math/Primitives.h"
 #include "primitives/Tolerance.h"
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 
@@ -223,13 +224,9 @@ int SolveQuadraticEquation(double a, double b, double c, double* x1, double* x2)
 bool SolveQuadraticEquation(double a, double b, double c, std::vector<double>& roots)
 {
     const QuadraticRoots found = RootsOfQuadratic(a, b, c);
-    for (const double root : {found.first, found.second})
-    {
-        if (!std::isnan(root))
-        {
-            roots.push_back(root);
-        }
-    }
+    std::array<double, 2> kept = {found.first, found.second};
+    const auto keptEnd = std::remove_if(kept.begin(), kept.end(), [](double root) { return std::isnan(root); });
+    roots.insert(roots.end(), kept.begin(), keptEnd);
     return found.count != 0;
 }
 

@@ -116,8 +116,10 @@ int ReplaceByAtMost(std::vector<DPOINT2>& points, int maxPoints, const PointerFo
     std::array<DPOINT2, 4> found;
     const auto output = [&](int index) { return index < limit ? &found[static_cast<std::size_t>(index)] : nullptr; };
     const int result = pointerForm(output(0), output(1), output(2), output(3));
-    points.clear();
-    AppendFirst(points, found, std::min(result, limit));
+    const int kept = std::max(std::min(result, limit), 0);
+    // Memory first: the vector has not changed if there is none.
+    points.reserve(static_cast<std::size_t>(kept));
+    points.assign(found.begin(), found.begin() + kept);
     return result;
 }
 

@@ -67,10 +67,12 @@ CPolyline& CPolyline::operator=(const CPolyline& other)
     {
         return *this;
     }
+    // Memory first: nothing has changed if there is none.
+    nodes.reserve(other.nodes.size());
+    nodes = other.nodes;
     id = other.id;
     attribute = other.attribute;
     start = other.start;
-    nodes = other.nodes;
     flags = other.flags;
     // Null in between: cloning may raise an exception.
     SetExtendParam(nullptr);

@@ -70,8 +70,17 @@ CPolyPosMap::CPolyPosMap(const std::vector<std::pair<double, double>>& pairs, co
 }
 
 CPolyPosMap::CPolyPosMap(const CPolyPosMap& other) = default;
-CPolyPosMap& CPolyPosMap::operator=(const CPolyPosMap& other) = default;
 CPolyPosMap::~CPolyPosMap() = default;
+
+CPolyPosMap& CPolyPosMap::operator=(const CPolyPosMap& other)
+{
+    // Memory first: nothing has changed if there is none.
+    m_posPairs.reserve(other.m_posPairs.size());
+    m_posPairs = other.m_posPairs;
+    m_srcSegmentCount = other.m_srcSegmentCount;
+    m_dstSegmentCount = other.m_dstSegmentCount;
+    return *this;
+}
 
 std::vector<std::pair<double, double>>& CPolyPosMap::PosPairs()
 {

@@ -53,16 +53,17 @@ void CPolyPosMap::Offset(const double& delta, const int& side)
 
 void CPolyPosMap::Split(const double& pos, const int& side)
 {
-    const double zero = pos;
-    const int splitSide = side;
-    if ((splitSide == SourceSide || splitSide == BothSides) && !IsAtSeam(zero, m_srcSegmentCount))
+    // A copy of the map is split, so that the map is as before if memory runs out between the sides.
+    CPolyPosMap split(*this);
+    if ((side == SourceSide || side == BothSides) && !IsAtSeam(pos, split.m_srcSegmentCount))
     {
-        *this = CPolyPosMapUtilies::ResetZero(zero, m_srcSegmentCount) * *this;
+        split = CPolyPosMapUtilies::ResetZero(pos, split.m_srcSegmentCount) * split;
     }
-    if ((splitSide == DestinationSide || splitSide == BothSides) && !IsAtSeam(zero, m_dstSegmentCount))
+    if ((side == DestinationSide || side == BothSides) && !IsAtSeam(pos, split.m_dstSegmentCount))
     {
-        *this *= !CPolyPosMapUtilies::ResetZero(zero, m_dstSegmentCount);
+        split *= !CPolyPosMapUtilies::ResetZero(pos, split.m_dstSegmentCount);
     }
+    *this = split;
 }
 
 void CPolyPosMap::ReverseDirection(int side)

@@ -71,6 +71,40 @@ void FillColumn(JointList& joints, int side, int segmentCount)
     }
 }
 
+/// The work of CPolyPosMap::FillAllSegmentNode.
+void Fill(CPolyPosMap& map, int side)
+{
+    if (map.IsInvalid() || map.IsEmpty())
+    {
+        return;
+    }
+    const bool wasUp = map.IsIncrease(SourceSide);
+    map.Normalize();
+    if (!map.IsIncrease(SourceSide))
+    {
+        map.Invert();
+    }
+    switch (side)
+    {
+    case SourceSide:
+        FillColumn(map.PosPairs(), SourceSide, map.SrcSegmentCount());
+        break;
+    case DestinationSide:
+        FillColumn(map.PosPairs(), DestinationSide, map.DstSegmentCount());
+        break;
+    case BothSides:
+        Fill(map, SourceSide);
+        Fill(map, DestinationSide);
+        break;
+    default:
+        break;
+    }
+    if (map.IsIncrease(SourceSide) != wasUp)
+    {
+        map.Invert();
+    }
+}
+
 } // namespace
 
 void CPolyPosMap::Unique(const bool& mergeStraight)
@@ -101,36 +135,12 @@ void CPolyPosMap::Normalize()
 
 void CPolyPosMap::FillAllSegmentNode(const int& side)
 {
-    if (IsInvalid() || IsEmpty())
-    {
-        return;
-    }
-    const int filledSide = side;
-    const bool wasUp = IsIncrease(SourceSide);
-    Normalize();
-    if (!IsIncrease(SourceSide))
-    {
-        Invert();
-    }
-    switch (filledSide)
-    {
-    case SourceSide:
-        FillColumn(m_posPairs, SourceSide, m_srcSegmentCount);
-        break;
-    case DestinationSide:
-        FillColumn(m_posPairs, DestinationSide, m_dstSegmentCount);
-        break;
-    case BothSides:
-        FillAllSegmentNode(SourceSide);
-        FillAllSegmentNode(DestinationSide);
-        break;
-    default:
-        break;
-    }
-    if (IsIncrease(SourceSide) != wasUp)
-    {
-        Invert();
-    }
+    // A copy is filled, so that the map is as before if memory runs out on the way.
+    CPolyPosMap filled(*this);
+    Fill(filled, side);
+    m_posPairs.swap(filled.m_posPairs);
+    m_srcSegmentCount = filled.m_srcSegmentCount;
+    m_dstSegmentCount = filled.m_dstSegmentCount;
 }
 
 } // namespace math
