@@ -2,7 +2,11 @@
 
 #include "math/Export.h"
 
-/// Tells whether QorMath answers as ever in a process in which the imposter was loaded first, and never calls it.
+/// The imposter's count of the calls of its members.
+using ImposterCalls = int (*)();
+
+/// Tells whether QorMath answers as ever in a process in which the imposter is loaded too, and never calls it.
 ///
-/// @return the number of failures, each of which has been printed; the imposter not being first is a failure as well
-extern "C" QORMATH_EXPORT int CheckBesideImposter();
+/// @param imposterWins  not 0 if the names of the kernel have to mean the imposter's classes in these checks
+/// @return the number of failures, each of which has been printed
+extern "C" QORMATH_EXPORT int CheckBesideImposter(ImposterCalls calls, int imposterWins);

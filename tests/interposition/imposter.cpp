@@ -99,7 +99,7 @@ const IntAna2d_IntPoint& NonsenseResult()
 
 } // namespace
 
-extern "C" QORMATH_EXPORT int ImposterCalls()
+extern "C" QORMATH_EXPORT int CallsOfImposter()
 {
     return calls;
 }

@@ -1,24 +1,59 @@
-// The imposter comes first because its names are made global before QorMath is loaded at all.
-// Usage: opened IMPOSTER CHECKS, the paths of the two libraries.
+// QorMath comes in as what a module needs that is opened while the program runs, before or after the imposter.
+// Usage: opened before|after IMPOSTER-FLAGS CHECKS-FLAGS imposter|library IMPOSTER CHECKS
+//
+// The imposter is opened before or after the checks. Flags are global, local or deepbind. The fourth argument is whose
+// classes the kernel's names mean in the checks, the last two are paths.
+
+#include "checks.h"
 
 #include <dlfcn.h>
 
 #include <cstdio>
+#include <string>
+
+namespace
+{
+
+int FlagsOf(const std::string& name)
+{
+    if (name == "global")
+    {
+        return RTLD_NOW | RTLD_GLOBAL;
+    }
+    return name == "deepbind" ? RTLD_NOW | RTLD_LOCAL | RTLD_DEEPBIND : RTLD_NOW | RTLD_LOCAL;
+}
+
+} // namespace
 
 int main(int argc, char* argv[])
 {
-    if (argc != 3 || dlopen(argv[1], RTLD_NOW | RTLD_GLOBAL) == nullptr)
+    if (argc != 7)
     {
-        std::fprintf(stderr, "no imposter: %s\n", dlerror());
+        std::fputs("Usage: opened before|after FLAGS FLAGS imposter|library IMPOSTER CHECKS\n", stderr);
         return 1;
     }
-    void* const checks = dlopen(argv[2], RTLD_NOW | RTLD_LOCAL);
-    void* const check = checks == nullptr ? nullptr : dlsym(checks, "CheckBesideImposter");
-    if (check == nullptr)
+    const std::string order = argv[1];
+    void* checks = nullptr;
+    if (order == "after")
     {
-        std::fprintf(stderr, "no checks: %s\n", dlerror());
+        checks = dlopen(argv[6], FlagsOf(argv[3]));
+    }
+    void* const imposter = dlopen(argv[5], FlagsOf(argv[2]));
+    if (order == "before")
+    {
+        checks = dlopen(argv[6], FlagsOf(argv[3]));
+    }
+    if (imposter == nullptr || checks == nullptr)
+    {
+        std::fprintf(stderr, "not opened: %s\n", dlerror());
         return 1;
     }
-    using Check = int (*)();
-    return reinterpret_cast<Check>(check)() == 0 ? 0 : 1;
+    const auto calls = reinterpret_cast<ImposterCalls>(dlsym(imposter, "CallsOfImposter"));
+    const auto check = reinterpret_cast<decltype(&CheckBesideImposter)>(dlsym(checks, "CheckBesideImposter"));
+    if (calls == nullptr || check == nullptr)
+    {
+        std::fprintf(stderr, "not found: %s\n", dlerror());
+        return 1;
+    }
+    return check(calls, std::string(argv[4]) == "imposter") == 0 ? 0 : 1;
 }
