@@ -3,8 +3,9 @@
 #
 # Usage: scripts/test.sh [PRESET [CTEST OPTION...]]
 #
-# PRESET is one of the presets of CMakePresets.json: release (the default), dev, clang or asan. It builds in
-# build/PRESET. Options for ctest may follow, for instance:  scripts/test.sh dev -R polyline
+# PRESET is one of the presets of CMakePresets.json: release (the default) or dev with g++, clang with clang++, or, with
+# sanitizers, asan, ubsan or tsan (docs/robustness.md). It builds in build/PRESET. Options for ctest may follow, for
+# instance:  scripts/test.sh dev -R polyline
 # Debian packages that are missing are installed first.
 set -euo pipefail
 cd "$(dirname "$0")/.."
@@ -15,9 +16,10 @@ shift $(($# > 0 ? 1 : 0))
 
 packages=(g++ cmake ninja-build pkgconf libocct-foundation-dev libgtest-dev libdxflib-dev python3)
 case $preset in
-    release | dev | asan) ;;
+    release | dev | asan | tsan) ;;
     clang) packages+=(clang) ;;
-    *) die "no such preset: $preset (there are release, dev, clang and asan)" ;;
+    ubsan) packages+=(clang libclang-rt-dev) ;;
+    *) die "no such preset: $preset (there are release, dev, clang, asan, ubsan and tsan)" ;;
 esac
 ensure_packages "${packages[@]}"
 
