@@ -48,8 +48,9 @@ namespace math
 /// positions and positions past the count are not ill-formed.
 ///
 /// Two positions are near when the absolute value of their difference is below 1e-9. An argument taken by reference may
-/// refer into the map itself: its value is taken before anything changes. Nothing throws but the allocator. A map is a
-/// value; it may be read by several threads at once, and one that is changed belongs to one thread.
+/// refer into the map itself: its value is taken before anything changes. Nothing throws but the allocator, and all
+/// maps are then as they were, the one that was to be changed included. A map is a value; it may be read by several
+/// threads at once, and one that is changed belongs to one thread.
 class QORMATH_EXPORT CPolyPosMap
 {
 public:

@@ -25,7 +25,10 @@ namespace math
 /// destroys it when it is replaced or at its own end, and clones it when it is copied, so no two polylines share one.
 ///
 /// The fields are public. `id`, `attribute` and `flags` are the caller's: they are copied along and read by nothing
-/// here. `start` is written directly, before nodes are added. A polyline that is being changed belongs to one thread.
+/// here. `start` is written directly, before nodes are added.
+///
+/// Nothing throws but the allocator and Clone; a polyline is then as it was, with one exception told at assignment. A
+/// polyline may be read by several threads at once; one that is being changed belongs to one thread.
 class QORMATH_EXPORT CPolyline
 {
 public:
@@ -68,7 +71,8 @@ public:
     /// Makes this a deep copy of `other`; nothing happens if they are one.
     ///
     /// The own record is destroyed before that of `other` is cloned, so `other` must not live inside the own record.
-    /// If Clone throws, the polyline has the nodes of `other` and no extension.
+    /// If Clone throws, the polyline has the nodes and fields of `other` and no extension. If there is no memory for
+    /// the nodes, it is as it was.
     CPolyline& operator=(const CPolyline& other);
 
     /// Destroys the extension.

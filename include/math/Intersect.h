@@ -48,8 +48,13 @@
 ///   the vector and never the result, so 0 appends nothing and still tells the count.
 ///
 /// **Failures.** No exception of the underlying geometry types leaves a member: a stretch of no length or a negative
-/// radius gives 0. A vector form passes on what the growth of its vector raises. NaN input gives no crash; what is
-/// counted for it has no meaning.
+/// radius gives 0. NaN input gives no crash; what is counted for it has no meaning.
+///
+/// **Memory.** Pointer forms ask for none, unless degenerate input makes the kernel raise an exception, which is caught
+/// inside. A vector form grows the caller's vector and nothing else, not even that if the vector has room; it passes on
+/// what the growth raises, and the vector is then as it was.
+///
+/// **Threads.** All functions may run on several threads at once.
 
 #include "math/Export.h"
 #include "math/Primitives.h"

@@ -29,7 +29,8 @@ namespace math
 /// **Comparison.** Two positions are near when the absolute value of their difference is below 1e-9; exactly 1e-9 is
 /// not near. No predicate wraps its arguments: 5.5 on a polyline of 4 segments is just a number above every end.
 ///
-/// Nothing here throws. Distinct ranges may be used on distinct threads, one range may be read by several.
+/// Nothing here throws but the allocator, and that only for the lists that Splite and the operators of the set algebra
+/// return. Distinct ranges may be used on distinct threads, one range may be read by several.
 struct QORMATH_EXPORT PosRangeD
 {
     double start; ///< position at which the range begins
