@@ -13,7 +13,8 @@
 ///
 /// The three classes stand under global names and on the value types of Open CASCADE. Lines are parallel and circles
 /// concentric at 1e-9; a tangency is a matter of one rounding unit, the distance of a number to the next double away
-/// from zero. The records have no shared state; one record belongs to one thread.
+/// from zero. The records have no shared state: a record may be read by several threads at once, and one
+/// that is changed belongs to one thread.
 ///
 /// Other libraries define classes of the same names. In a program that loads one of them first, the names may be bound
 /// to those; QorMath's own calls always reach its own.

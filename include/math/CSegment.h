@@ -40,8 +40,8 @@ enum SegmentType : int
 /// The operations by the slot are meant for lines and arcs, the only pieces of a CPolyline. The direction of a Bezier
 /// curve comes from GetAngle.
 ///
-/// A segment owns nothing, caches nothing and is copied byte by byte. Arguments taken by reference may refer into the
-/// segment itself.
+/// A segment owns nothing, caches nothing and is copied byte by byte; it asks for no memory and may be read by several
+/// threads at once. Arguments taken by reference may refer into the segment itself.
 class QORMATH_EXPORT CSegment
 {
 public:
