@@ -151,6 +151,28 @@ TEST(Threads, ChangeObjectsOfTheirOwnThatWereCopiedFromSharedOnes)
     }
 }
 
+/// They are not declared const, yet change nothing.
+TEST(Threads, CallFunctionsThatOnlyReadThoughTheyAreNotConst)
+{
+    Setting shared(0);
+    const Answer bits = shared.Bits();
+    const CPolyPosMap inverse = !shared.map;
+    const auto ask = [&] {
+        return Answer() << shared.curved.GetSplitSegment(0.25, true) << shared.curved.GetSplitSegment(0.25, 0.75)
+                        << shared.forward.Splite(shared.position) << shared.map.IsInvertTo(inverse);
+    };
+    const Answer expected = ask();
+    std::vector<int> wrong(ThreadCount, 0);
+    OnAllThreads([&](int number) {
+        for (int round = 0; round < 50; ++round)
+        {
+            wrong[static_cast<std::size_t>(number)] += ask() != expected;
+        }
+    });
+    EXPECT_EQ(wrong, std::vector<int>(ThreadCount, 0));
+    EXPECT_TRUE(shared.Bits() == bits);
+}
+
 /// Exceptions that the library raises inside, or lets out, belong to the thread that called.
 TEST(Threads, MeetFailuresAtTheSameTime)
 {
