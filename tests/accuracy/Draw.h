@@ -1,0 +1,76 @@
+#pragma once
+
+#include <cmath>
+#include <cstdint>
+#include <random>
+#include <string>
+
+namespace math::accuracy
+{
+
+/// Seeded random input. Only operations that give the same bits on every machine are used.
+class Draw
+{
+public:
+    explicit Draw(const std::string& name) : engine(Hash(name))
+    {
+    }
+
+    /// Evenly spread in [0, 1).
+    double Unit()
+    {
+        return std::ldexp(static_cast<double>(engine() >> 11U), -53);
+    }
+
+    double Between(double low, double high)
+    {
+        return low + (high - low) * Unit();
+    }
+
+    /// From -size to size.
+    double Signed(double size)
+    {
+        return Between(-size, size);
+    }
+
+    /// Above 0, its logarithm evenly spread: each power of two between the bounds is as frequent as the others.
+    double Magnitude(double low, double high)
+    {
+        const int least = std::ilogb(low);
+        const int count = std::ilogb(high) - least + 1;
+        const double value = std::ldexp(1.0 + Unit(), least + static_cast<int>(Unit() * count));
+        return value < low ? low : (value > high ? high : value);
+    }
+
+    double SignedMagnitude(double low, double high)
+    {
+        return Coin() ? Magnitude(low, high) : -Magnitude(low, high);
+    }
+
+    bool Coin()
+    {
+        return (engine() & 1U) != 0;
+    }
+
+    /// A direction in [0, 2π), a double.
+    double Angle()
+    {
+        return Between(0.0, 6.283185307179586);
+    }
+
+private:
+    // FNV-1a: one stream a row, so that rows do not depend on what is measured before them.
+    static std::uint64_t Hash(const std::string& name)
+    {
+        std::uint64_t hash = 14695981039346656037U;
+        for (const char letter : name)
+        {
+            hash = (hash ^ static_cast<unsigned char>(letter)) * 1099511628211U;
+        }
+        return hash;
+    }
+
+    std::mt19937_64 engine;
+};
+
+} // namespace math::accuracy

@@ -1,0 +1,207 @@
+#include "Report.h"
+
+#include <algorithm>
+#include <cmath>
+#include <fstream>
+#include <sstream>
+#include <stdexcept>
+
+namespace math::accuracy
+{
+
+namespace
+{
+
+std::string Short(double value)
+{
+    char buffer[32];
+    std::snprintf(buffer, sizeof(buffer), value != 0.0 && (value < 0.01 || value >= 1e5) ? "%.1e" : "%.3g", value);
+    return buffer;
+}
+
+std::string Trimmed(const std::string& text)
+{
+    const std::size_t first = text.find_first_not_of(' ');
+    return first == std::string::npos ? "" : text.substr(first, text.find_last_not_of(' ') - first + 1);
+}
+
+bool Exceeds(const Row& row, const Bound& bound, double tighten)
+{
+    const auto expected = static_cast<double>(row.expected);
+    return !(row.worstConditioned <= bound.conditioned / tighten) ||
+           static_cast<double>(row.missed) > bound.missedShare / tighten * expected ||
+           static_cast<double>(row.extra) > bound.extraShare / tighten * expected;
+}
+
+} // namespace
+
+void Row::Add(const Real& error, const Real& unitSize, double condition, const Describe& describe)
+{
+    const double units = error.Sign() == 0 ? 0.0 : (error / unitSize).ToDouble();
+    const double conditioned = units / condition;
+    if (std::isnan(conditioned))
+    {
+        CountMissed(describe);
+        return;
+    }
+    worstUnits = std::max(worstUnits, units);
+    worstAbsolute = std::max(worstAbsolute, error.ToDouble());
+    if (conditioned > worstConditioned)
+    {
+        worstConditioned = conditioned;
+        worstInput = describe();
+    }
+}
+
+void Row::CountMissed(const Describe& describe)
+{
+    if (++missed == 1)
+    {
+        exampleMissed = describe();
+    }
+}
+
+void Row::CountExtra(const Describe& describe)
+{
+    if (++extra == 1)
+    {
+        exampleExtra = describe();
+    }
+}
+
+Bounds::Bounds(const std::string& path)
+{
+    std::ifstream file(path);
+    if (!file)
+    {
+        throw std::runtime_error("cannot read " + path);
+    }
+    for (std::string line; std::getline(file, line);)
+    {
+        if (line.empty() || line[0] == '#')
+        {
+            continue;
+        }
+        std::istringstream text(line);
+        std::vector<std::string> fields;
+        for (std::string field; std::getline(text, field, fields.size() < 6 ? ';' : '\n');)
+        {
+            fields.push_back(Trimmed(field)); // The reason is the rest of the line.
+        }
+        if (fields.size() != 7)
+        {
+            throw std::runtime_error("seven fields are expected in: " + line);
+        }
+        entries[{fields[0], fields[1]}] = {std::stod(fields[2]), std::stod(fields[3]), std::stod(fields[4]), fields[5],
+                                           fields[6]};
+    }
+}
+
+const Bound* Bounds::Find(const Row& row) const
+{
+    for (const std::string& stratum : {row.stratum, std::string("*")})
+    {
+        const auto entry = entries.find({row.function, stratum});
+        if (entry != entries.end())
+        {
+            return &entry->second;
+        }
+    }
+    return nullptr;
+}
+
+void Run::Stratum(const std::string& function, const std::string& stratum, const std::string& unit, int cases,
+                  const std::function<void(Draw&, Row&)>& measure)
+{
+    if (!only.empty() && function != only)
+    {
+        return;
+    }
+    Row row;
+    row.function = function;
+    row.stratum = stratum;
+    row.unit = unit;
+    Draw draw(function + "/" + stratum);
+    const long rounds = std::max(1L, static_cast<long>(cases * load));
+    for (row.cases = 0; row.cases < rounds; ++row.cases)
+    {
+        measure(draw, row);
+    }
+    rows.push_back(row);
+}
+
+void PrintMarkdown(std::ostream& out, const std::vector<Row>& rows, const Bounds& bounds)
+{
+    out << "| function | input | cases | unit | worst, units | worst / condition | bound | worst, absolute | missed | "
+           "extra |\n|---|---|--:|---|--:|--:|--:|--:|--:|--:|\n";
+    for (const Row& row : rows)
+    {
+        const Bound* bound = bounds.Find(row);
+        out << "| " << row.function << " | " << row.stratum << " | " << row.cases << " | " << row.unit << " | "
+            << Short(row.worstUnits) << " | " << Short(row.worstConditioned) << " | "
+            << (bound != nullptr ? Short(bound->conditioned) + (bound->basis == "theory" ? " t" : " m") : "none")
+            << " | " << Short(row.worstAbsolute) << " | ";
+        if (row.expected > 0)
+        {
+            out << row.missed << " of " << row.expected << " | " << row.extra << " |\n";
+        }
+        else
+        {
+            out << (row.missed > 0 ? std::to_string(row.missed) : "") << " | |\n";
+        }
+    }
+    out << "\n## Reasons of the bounds\n\n| function | input | bound | reason |\n|---|---|--:|---|\n";
+    std::vector<const Bound*> told;
+    for (const Row& row : rows)
+    {
+        const Bound* bound = bounds.Find(row);
+        if (bound == nullptr || std::find(told.begin(), told.end(), bound) != told.end())
+        {
+            continue;
+        }
+        told.push_back(bound);
+        Row whole = row;
+        whole.stratum = "*";
+        const bool isOfAll = bounds.Find(whole) == bound;
+        out << "| " << row.function << " | " << (isOfAll ? "all others" : row.stratum) << " | "
+            << Short(bound->conditioned) << " " << bound->basis << " | " << bound->reason << " |\n";
+    }
+}
+
+void PrintWorst(std::ostream& out, const std::vector<Row>& rows)
+{
+    for (const Row& row : rows)
+    {
+        out << row.function << " / " << row.stratum << ": " << Short(row.worstUnits) << " units, "
+            << Short(row.worstConditioned) << " by condition, " << Short(row.worstAbsolute) << " absolute\n    "
+            << row.worstInput << '\n';
+        if (row.missed > 0)
+        {
+            out << "    missed " << row.missed << " of " << row.expected << ", first at " << row.exampleMissed << '\n';
+        }
+        if (row.extra > 0)
+        {
+            out << "    extra " << row.extra << ", first at " << row.exampleExtra << '\n';
+        }
+    }
+}
+
+int CheckBounds(std::ostream& out, const std::vector<Row>& rows, const Bounds& bounds, double tighten)
+{
+    int failures = 0;
+    for (const Row& row : rows)
+    {
+        const Bound* bound = bounds.Find(row);
+        if (bound != nullptr && !Exceeds(row, *bound, tighten))
+        {
+            continue;
+        }
+        ++failures;
+        out << row.function << " / " << row.stratum << ": "
+            << (bound == nullptr ? "has no bound" : "exceeds its bound " + Short(bound->conditioned / tighten)) << '\n';
+        PrintWorst(out, {row});
+    }
+    return failures;
+}
+
+} // namespace math::accuracy
