@@ -258,7 +258,8 @@ public:
     /// Both operands are brought to normal form first. Then an empty operand is neutral, whatever its counts: the other
     /// one is the result.
     ///
-    /// The time grows with the product of the numbers of joints.
+    /// The time grows with the number of joints of both maps; with the product of the two numbers where a column does not
+    /// rise or fall exactly, but turns back within the tolerance, or holds a NaN or an infinity.
     ///
     /// @return the composition; an empty map with both counts 0 if an operand is invalid or cannot be brought to normal
     ///         form, or if nothing survives

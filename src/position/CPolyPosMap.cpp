@@ -1,5 +1,6 @@
 #include "math/CPolyPosMap.h"
 
+#include "position/Columns.h"
 #include "position/PairList.h"
 #include "primitives/Tolerance.h"
 
@@ -27,28 +28,6 @@ using detail::SourceSide;
 
 namespace
 {
-
-/// Steps between near neighbours may go either way.
-bool TurnsBack(const JointList& joints, int side)
-{
-    const bool up = ColumnValue(joints.front(), side) <= ColumnValue(joints.back(), side);
-    for (std::size_t i = 0; i + 1 < joints.size(); ++i)
-    {
-        const double earlier = ColumnValue(joints[i], side);
-        const double later = ColumnValue(joints[i + 1], side);
-        if (!AreEqual(earlier, later) && (up ? later < earlier : later > earlier))
-        {
-            return true;
-        }
-    }
-    return false;
-}
-
-bool ExceedsLap(const JointList& joints, int side, int segmentCount)
-{
-    const double span = std::abs(ColumnValue(joints.front(), side) - ColumnValue(joints.back(), side));
-    return span > segmentCount + DoubleTolerance;
-}
 
 bool StartsInside(double lowEnd, int segmentCount)
 {
@@ -166,27 +145,12 @@ CPolyPosMap CPolyPosMap::operator!() const
 
 bool CPolyPosMap::IsIdentity() const
 {
-    if (IsEmpty())
-    {
-        return true;
-    }
-    if (m_srcSegmentCount != m_dstSegmentCount)
-    {
-        return false;
-    }
-    return std::all_of(m_posPairs.begin(), m_posPairs.end(),
-                       [](const Joint& joint) { return AreEqual(joint.first, joint.second); });
+    return detail::IsIdentityList(m_posPairs, m_srcSegmentCount, m_dstSegmentCount);
 }
 
 bool CPolyPosMap::IsInvalid() const
 {
-    if (m_posPairs.size() < 2)
-    {
-        return false;
-    }
-    return TurnsBack(m_posPairs, SourceSide) || TurnsBack(m_posPairs, DestinationSide) ||
-           ExceedsLap(m_posPairs, SourceSide, m_srcSegmentCount) ||
-           ExceedsLap(m_posPairs, DestinationSide, m_dstSegmentCount);
+    return detail::ShapeOf(m_posPairs, m_srcSegmentCount, m_dstSegmentCount).isIllFormed;
 }
 
 bool CPolyPosMap::IsNormalize() const
@@ -199,9 +163,8 @@ bool CPolyPosMap::IsNormalize() const
     {
         return true;
     }
-    const double lowSource = IsIncrease(SourceSide) ? m_posPairs.front().first : m_posPairs.back().first;
-    const double lowDestination = IsIncrease(DestinationSide) ? m_posPairs.front().second : m_posPairs.back().second;
-    return StartsInside(lowSource, m_srcSegmentCount) && StartsInside(lowDestination, m_dstSegmentCount);
+    return StartsInside(detail::SpanOf(m_posPairs, SourceSide).start, m_srcSegmentCount) &&
+           StartsInside(detail::SpanOf(m_posPairs, DestinationSide).start, m_dstSegmentCount);
 }
 
 bool CPolyPosMap::IsIncrease(const int& side) const
@@ -214,8 +177,8 @@ bool CPolyPosMap::IsIncrease(const int& side) const
     {
         return true;
     }
-    const bool sourceUp = m_posPairs.front().first <= m_posPairs.back().first;
-    const bool destinationUp = m_posPairs.front().second <= m_posPairs.back().second;
+    const bool sourceUp = detail::RunsUpward(m_posPairs, SourceSide);
+    const bool destinationUp = detail::RunsUpward(m_posPairs, DestinationSide);
     switch (side)
     {
     case SourceSide:
@@ -260,15 +223,14 @@ PosRangeD CPolyPosMap::GetRange(const int& side, const bool& normalize) const
     {
         return PosRangeD();
     }
-    double front = ColumnValue(m_posPairs.front(), side);
-    double back = ColumnValue(m_posPairs.back(), side);
-    if (normalize)
+    const PosRangeD span = detail::SpanOf(m_posPairs, side);
+    if (!normalize)
     {
-        const int segmentCount = side == SourceSide ? m_srcSegmentCount : m_dstSegmentCount;
-        front = PosRangeD::NormalizePos(front, segmentCount);
-        back = PosRangeD::NormalizePos(back, segmentCount);
+        return span;
     }
-    return IsIncrease(side) ? PosRangeD(front, back) : PosRangeD(back, front);
+    const int segmentCount = side == SourceSide ? m_srcSegmentCount : m_dstSegmentCount;
+    return PosRangeD(PosRangeD::NormalizePos(span.start, segmentCount),
+                     PosRangeD::NormalizePos(span.end, segmentCount));
 }
 
 } // namespace math

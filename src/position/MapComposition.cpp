@@ -1,122 +1,144 @@
 #include "math/CPolyPosMap.h"
 
+#include "position/Columns.h"
+#include "position/JointLookup.h"
+#include "position/LapMover.h"
 #include "position/PairList.h"
 #include "position/SortByImages.h"
+#include "position/SortStably.h"
 #include "primitives/Tolerance.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
-#include <map>
 
 namespace math
 {
 
 using detail::AreEqual;
 using detail::DestinationSide;
-using detail::ImageTable;
 using detail::Joint;
 using detail::JointList;
+using detail::JointLookup;
 using detail::SourceSide;
+using detail::Station;
 
 namespace
 {
 
-using PreimageTable = std::map<double, std::vector<double>>;
-
 /// Normalises until the map is normal. Positions whose integer part is an `int` settle within a few passes; a map whose
 /// columns run opposite ways may never get there.
-bool BringToNormalForm(CPolyPosMap& map)
+///
+/// @param moved  where the normal form of a map that is not normal goes
+/// @return the map itself or `moved`; null if the map is ill-formed or never gets normal
+const CPolyPosMap* InNormalForm(const CPolyPosMap& map, CPolyPosMap& moved)
 {
+    if (map.IsNormalize())
+    {
+        return &map;
+    }
+    if (map.IsInvalid())
+    {
+        return nullptr;
+    }
+    moved = map;
     constexpr int mostPasses = 8;
     for (int pass = 0; pass < mostPasses; ++pass)
     {
-        if (map.IsNormalize())
+        moved.Normalize();
+        if (moved.IsNormalize())
         {
-            return true;
+            return &moved;
         }
-        map.Normalize();
     }
-    return map.IsNormalize();
+    return nullptr;
 }
+
+/// Collapses each chain of near values, from `begin` to the end of sorted positions, to its last.
+void CollapseChains(std::vector<double>& positions, std::size_t begin)
+{
+    std::size_t kept = begin;
+    for (std::size_t i = begin; i < positions.size(); ++i)
+    {
+        if (kept > begin && AreEqual(positions[kept - 1], positions[i]))
+        {
+            --kept;
+        }
+        positions[kept++] = positions[i];
+    }
+    positions.resize(kept);
+}
+
+/// Tells whether a normal list runs past the count on a side.
+bool CrossesSeam(const JointList& joints, int side, int segmentCount)
+{
+    const PosRangeD covered = detail::SpanOf(joints, side);
+    if (joints.size() < 2 || AreEqual(covered.start, covered.end) || segmentCount == 0)
+    {
+        return false;
+    }
+    const double boundary = static_cast<double>((detail::WholeLaps(covered.start, segmentCount) + 1) * segmentCount);
+    return !AreEqual(covered.end, boundary) && covered.end > boundary;
+}
+
+/// A map to work on.
+struct WorkingMap
+{
+    JointList joints;
+    int srcSegmentCount;
+    int dstSegmentCount;
+    detail::ListShape shape;
+};
 
 int DoubledCount(int segmentCount)
 {
     return detail::SaturateToInt(std::int64_t{2} * segmentCount);
 }
 
-/// Writes a map over two laps of both polylines, so that the walk goes straight on from the first lap into the second
+/// Writes a list over two laps of both polylines, so that the walk goes straight on from the first lap into the second
 /// on either side.
-CPolyPosMap UnrollTwoLaps(const CPolyPosMap& map)
+JointList UnrollTwoLaps(const CPolyPosMap& map)
 {
-    const bool sourceUp = map.IsIncrease(SourceSide);
-    const bool destinationUp = map.IsIncrease(DestinationSide);
+    const JointList& lap = map.PosPairs();
+    const bool sourceUp = detail::RunsUpward(lap, SourceSide);
+    const bool destinationUp = detail::RunsUpward(lap, DestinationSide);
     const double sourceLap = map.SrcSegmentCount();
     const double destinationLap = map.DstSegmentCount();
     const Joint firstShift(sourceUp ? 0.0 : sourceLap, destinationUp ? 0.0 : destinationLap);
     const Joint secondShift(sourceUp ? sourceLap : 0.0, destinationUp ? destinationLap : 0.0);
 
     JointList joints;
-    joints.reserve(2 * map.PosPairs().size());
+    joints.reserve(2 * lap.size());
     for (const Joint& shift : {firstShift, secondShift})
     {
-        for (const Joint& joint : map.PosPairs())
+        for (const Joint& joint : lap)
         {
             joints.emplace_back(joint.first + shift.first, joint.second + shift.second);
         }
     }
-    return CPolyPosMap(joints, DoubledCount(map.SrcSegmentCount()), DoubledCount(map.DstSegmentCount()));
+    return joints;
 }
 
-/// Sorts positions and collapses each chain of near ones to its last.
-void SortUniquePositions(std::vector<double>& positions, bool ascending)
+WorkingMap WorkingCopy(const CPolyPosMap& map, bool overTwoLaps)
 {
-    detail::SortPositions(positions, ascending);
-    std::size_t kept = 0;
-    for (const double position : positions)
-    {
-        if (kept > 0 && AreEqual(positions[kept - 1], position))
-        {
-            --kept;
-        }
-        positions[kept++] = position;
-    }
-    positions.resize(kept);
-}
-
-bool IsSamePositionList(const std::vector<double>& a, const std::vector<double>& b)
-{
-    return std::equal(a.begin(), a.end(), b.begin(), b.end(), [](double x, double y) { return AreEqual(x, y); });
-}
-
-/// Tells whether a normal map runs past the count on a side.
-bool CrossesSeam(const CPolyPosMap& map, int side)
-{
-    const int segmentCount = side == SourceSide ? map.SrcSegmentCount() : map.DstSegmentCount();
-    if (map.IsPoint(side) || segmentCount == 0)
-    {
-        return false;
-    }
-    const PosRangeD covered = map.GetRange(side, false);
-    const double boundary = static_cast<double>((detail::WholeLaps(covered.start, segmentCount) + 1) * segmentCount);
-    return !AreEqual(covered.end, boundary) && covered.end > boundary;
-}
-
-bool KeepsDirection(const CPolyPosMap& map)
-{
-    return map.IsIncrease(SourceSide) == map.IsIncrease(DestinationSide);
-}
-
-/// A map to work on. Of two maps that meet at a seam, the partner of the side that crosses is lengthened to two laps;
-/// where both cross, the second map alone.
-CPolyPosMap WorkingCopy(const CPolyPosMap& map, bool overTwoLaps)
-{
-    CPolyPosMap copy = overTwoLaps ? UnrollTwoLaps(map) : map;
-    copy.Unique(true);
+    WorkingMap copy{overTwoLaps ? UnrollTwoLaps(map) : map.PosPairs(),
+                    overTwoLaps ? DoubledCount(map.SrcSegmentCount()) : map.SrcSegmentCount(),
+                    overTwoLaps ? DoubledCount(map.DstSegmentCount()) : map.DstSegmentCount(),
+                    {}};
+    detail::Tidy(copy.joints);
+    copy.shape = detail::ShapeOf(copy.joints, copy.srcSegmentCount, copy.dstSegmentCount);
     return copy;
 }
 
-/// Composes two normal maps that both have joints.
+/// A place on the source of the first map and the joint of the second map that it lands on.
+struct Landing
+{
+    double place;
+    double position;
+};
+
+/// Composes two normal maps that both have joints. Of maps that meet at a seam, the partner of the side that crosses is
+/// lengthened to two laps; where both cross, the second map alone.
 class Composition
 {
 public:
@@ -125,141 +147,191 @@ public:
     CPolyPosMap Compose();
 
 private:
-    void CollectKeys();
+    std::vector<double> FedJoints() const;
+    void CollectLandings();
+    void CollectPlaces();
     void CollectImages();
     void ReduceRuns();
-    JointList JointsInWalkingOrder() const;
+    bool HaveSameImages(const Station& a, const Station& b) const;
+    JointList JointsInWalkingOrder();
     void LimitToOneLap(JointList& joints) const;
-    CPolyPosMap MakeResult(const JointList& joints) const;
+    CPolyPosMap MakeResult(JointList& joints) const;
 
     const CPolyPosMap& m_first;
     const CPolyPosMap& m_second;
-    CPolyPosMap m_feeding; ///< the first map, unrolled if only the second one's source crosses the seam
-    CPolyPosMap m_fed;     ///< the second map, unrolled if the first one's destination crosses the seam
+    bool m_firstCrosses;  ///< the first map's destination crosses the seam
+    bool m_secondCrosses; ///< the second map's source crosses the seam
+    WorkingMap m_feeding; ///< the first map, unrolled if only the second one's source crosses the seam
+    WorkingMap m_fed;     ///< the second map, unrolled if the first one's destination crosses the seam
     bool m_sameWay;
-    std::vector<double> m_keys; ///< places on the first source where the result may have a joint, ascending
-    PreimageTable m_preimages;  ///< key: such a place; value: joints of the second source that it lands on
-    ImageTable m_images;        ///< key: such a place; value: its images in the order in which they are walked
+    std::vector<Landing> m_landings; ///< ascending by place
+    std::vector<double> m_places;    ///< places on the first source where the result may have a joint, ascending
+    std::vector<double> m_images;    ///< the images of all stations, one after the other
+    std::vector<Station> m_stations; ///< the places and their images, in the order in which those are walked
 };
 
 Composition::Composition(const CPolyPosMap& first, const CPolyPosMap& second)
     : m_first(first),
       m_second(second),
-      m_feeding(WorkingCopy(first, !CrossesSeam(first, DestinationSide) && CrossesSeam(second, SourceSide))),
-      m_fed(WorkingCopy(second, CrossesSeam(first, DestinationSide))),
-      m_sameWay(KeepsDirection(m_feeding) == KeepsDirection(m_fed))
+      m_firstCrosses(CrossesSeam(first.PosPairs(), DestinationSide, first.DstSegmentCount())),
+      m_secondCrosses(CrossesSeam(second.PosPairs(), SourceSide, second.SrcSegmentCount())),
+      m_feeding(WorkingCopy(first, !m_firstCrosses && m_secondCrosses)),
+      m_fed(WorkingCopy(second, m_firstCrosses)),
+      m_sameWay(detail::KeepsDirection(m_feeding.joints, m_feeding.shape) ==
+                detail::KeepsDirection(m_fed.joints, m_fed.shape))
 {
 }
 
-void Composition::CollectKeys()
+/// The joints of the second source, ascending, of near ones the last.
+std::vector<double> Composition::FedJoints() const
 {
-    std::vector<double> fedJoints;
-    for (const Joint& joint : m_fed.PosPairs())
+    std::vector<double> positions;
+    positions.reserve(m_fed.joints.size());
+    for (const Joint& joint : m_fed.joints)
     {
-        fedJoints.push_back(joint.first);
+        positions.push_back(joint.first);
     }
-    SortUniquePositions(fedJoints, true);
+    detail::SortPositions(positions.begin(), positions.end(), true);
+    CollapseChains(positions, 0);
+    return positions;
+}
 
-    const CPolyPosMap inverse = !m_feeding;
-    const PosRangeD landing = inverse.GetRange(SourceSide, false);
+/// Carries the joints of the second source back through the first map.
+void Composition::CollectLandings()
+{
+    // The inverse of the first map: an identity is its own.
+    const bool isIdentity =
+        detail::IsIdentityList(m_feeding.joints, m_feeding.srcSegmentCount, m_feeding.dstSegmentCount);
+    const int side = isIdentity ? SourceSide : DestinationSide;
+    const detail::ColumnOrder order = isIdentity ? m_feeding.shape.source : m_feeding.shape.destination;
+    const detail::LapMover moveToLap(m_feeding.shape.isIllFormed ? PosRangeD() : detail::SpanOf(m_feeding.joints, side),
+                                     m_feeding.dstSegmentCount);
+    JointLookup lookup(m_feeding.joints, side, order);
+    const std::vector<double> fedJoints = FedJoints();
+    m_landings.reserve(fedJoints.size());
+    std::vector<double> places;
     for (const double fedJoint : fedJoints)
     {
-        const double moved = PosRangeD::NormalizePos(fedJoint, landing, inverse.SrcSegmentCount());
-        for (const double key : detail::Evaluate(inverse.PosPairs(), moved))
+        const double moved = moveToLap(fedJoint);
+        places.clear();
+        lookup.AppendImages(moved, places);
+        for (const double place : places)
         {
-            m_keys.push_back(key);
-            m_preimages[key].push_back(moved);
+            m_landings.push_back({place, moved});
         }
     }
-    for (const Joint& joint : m_feeding.PosPairs())
+    detail::SortStably(m_landings.begin(), m_landings.end(),
+                       [](const Landing& a, const Landing& b) { return detail::LiesBefore(a.place, b.place, true); });
+}
+
+void Composition::CollectPlaces()
+{
+    std::vector<double> ownJoints;
+    ownJoints.reserve(m_feeding.joints.size());
+    for (const Joint& joint : m_feeding.joints)
     {
-        m_keys.push_back(joint.first);
+        ownJoints.push_back(joint.first);
     }
-    SortUniquePositions(m_keys, true);
+    detail::SortPositions(ownJoints.begin(), ownJoints.end(), true);
+
+    m_places.reserve(m_landings.size() + ownJoints.size());
+    auto own = ownJoints.begin();
+    for (const Landing& landing : m_landings)
+    {
+        while (own != ownJoints.end() && detail::LiesBefore(*own, landing.place, true))
+        {
+            m_places.push_back(*own++);
+        }
+        m_places.push_back(landing.place);
+    }
+    m_places.insert(m_places.end(), own, ownJoints.end());
+    CollapseChains(m_places, 0);
 }
 
 void Composition::CollectImages()
 {
-    for (const double key : m_keys)
+    JointLookup feeding(m_feeding.joints, SourceSide, m_feeding.shape.source);
+    JointLookup fed(m_fed.joints, SourceSide, m_fed.shape.source);
+    m_images.reserve(m_places.size());
+    m_stations.reserve(m_places.size());
+    std::vector<double> between;
+    auto landing = m_landings.cbegin();
+    for (const double place : m_places)
     {
-        std::vector<double> between = detail::Evaluate(m_feeding.PosPairs(), key);
-        const auto preimage = m_preimages.find(key);
-        if (preimage != m_preimages.end())
+        between.clear();
+        feeding.AppendImages(place, between);
+        for (; landing != m_landings.cend() && landing->place <= place; ++landing)
         {
-            // What interpolation at the key missed, for instance the value of a joint on another lap.
-            for (const double landed : preimage->second)
+            // What interpolation at the place missed, for instance the value of a joint on another lap.
+            const auto isKnown = [&](double position) { return AreEqual(position, landing->position); };
+            if (landing->place == place && std::none_of(between.begin(), between.end(), isKnown))
             {
-                if (std::none_of(between.begin(), between.end(), [&](double x) { return AreEqual(x, landed); }))
-                {
-                    between.push_back(landed);
-                }
+                between.push_back(landing->position);
             }
         }
-        std::vector<double> images;
+        const std::size_t begin = m_images.size();
         for (const double position : between)
         {
-            const std::vector<double> found = detail::Evaluate(m_fed.PosPairs(), position);
-            images.insert(images.end(), found.begin(), found.end());
+            fed.AppendImages(position, m_images);
         }
-        SortUniquePositions(images, m_sameWay);
-        if (!images.empty())
-        {
-            m_images[key] = images;
-        }
+        detail::SortPositions(m_images.begin() + static_cast<std::ptrdiff_t>(begin), m_images.end(), m_sameWay);
+        CollapseChains(m_images, begin);
+        m_stations.push_back({place, begin, m_images.size()});
     }
+}
+
+bool Composition::HaveSameImages(const Station& a, const Station& b) const
+{
+    const auto image = [&](std::size_t index) { return m_images.begin() + static_cast<std::ptrdiff_t>(index); };
+    return std::equal(image(a.imagesBegin), image(a.imagesEnd), image(b.imagesBegin), image(b.imagesEnd),
+                      [](double x, double y) { return AreEqual(x, y); });
 }
 
 /// Reduces each run of neighbouring places with one and the same image list to its two ends.
 void Composition::ReduceRuns()
 {
-    for (std::size_t begin = 0; begin < m_keys.size(); ++begin)
+    for (std::size_t begin = 0; begin < m_stations.size(); ++begin)
     {
-        const auto first = m_images.find(m_keys[begin]);
-        if (first == m_images.end())
+        Station& first = m_stations[begin];
+        if (first.HasNoImages())
         {
             continue;
         }
         // Compared with the first of the run, so that small steps do not add up.
-        const std::vector<double> images = first->second;
         std::size_t end = begin + 1;
-        for (; end < m_keys.size(); ++end)
+        while (end < m_stations.size() && HaveSameImages(first, m_stations[end]))
         {
-            const auto next = m_images.find(m_keys[end]);
-            if (next == m_images.end() || !IsSamePositionList(next->second, images))
-            {
-                break;
-            }
+            ++end;
         }
         if (end - begin < 2)
         {
             continue;
         }
-        const double lastImage = m_images.find(m_keys[end - 1])->second.back();
-        for (std::size_t i = begin; i < end; ++i)
+        for (std::size_t i = begin + 1; i + 1 < end; ++i)
         {
-            m_images.erase(m_keys[i]);
+            m_stations[i].imagesEnd = m_stations[i].imagesBegin;
         }
-        // The last key of the run may begin the next one, with its one image.
-        m_images[m_keys[begin]] = {images.front()};
-        m_images[m_keys[end - 1]] = {lastImage};
+        // The last place of the run may begin the next one, with its one image.
+        Station& last = m_stations[end - 1];
+        first.imagesEnd = first.imagesBegin + 1;
+        last.imagesBegin = last.imagesEnd - 1;
     }
 }
 
-JointList Composition::JointsInWalkingOrder() const
+JointList Composition::JointsInWalkingOrder()
 {
-    std::vector<double> keys;
-    for (const auto& entry : m_images)
-    {
-        keys.push_back(entry.first);
-    }
-    detail::SortByImages(keys, m_images, m_sameWay);
+    m_stations.erase(std::remove_if(m_stations.begin(), m_stations.end(),
+                                    [](const Station& station) { return station.HasNoImages(); }),
+                     m_stations.end());
+    detail::SortByImages(m_stations, m_images, m_sameWay);
 
     JointList joints;
-    for (const double key : keys)
+    joints.reserve(m_images.size() + 1);
+    for (const Station& station : m_stations)
     {
-        for (const double image : m_images.find(key)->second)
+        for (std::size_t i = station.imagesBegin; i < station.imagesEnd; ++i)
         {
-            joints.emplace_back(key, image);
+            joints.emplace_back(station.place, m_images[i]);
         }
     }
     return joints;
@@ -268,32 +340,21 @@ JointList Composition::JointsInWalkingOrder() const
 /// Ends a walk at `limit` on one side: puts a joint there unless the walk has one, and drops what lies beyond.
 void CutBeyond(JointList& joints, int side, double limit, bool upward)
 {
-    bool reached = false;
-    for (std::size_t i = 0; i < joints.size();)
+    const auto isAtLimit = [=](const Joint& joint) { return AreEqual(detail::ColumnValue(joint, side), limit); };
+    const auto isBeyond = [=](const Joint& joint) {
+        const double value = detail::ColumnValue(joint, side);
+        return !isAtLimit(joint) && (upward ? value > limit : value < limit);
+    };
+    const auto firstOut = std::find_if(joints.begin(), joints.end(), isBeyond);
+    if (firstOut == joints.end())
     {
-        const double value = detail::ColumnValue(joints[i], side);
-        if (AreEqual(value, limit))
-        {
-            reached = true;
-            ++i;
-        }
-        else if (upward ? value > limit : value < limit)
-        {
-            if (reached)
-            {
-                joints.erase(joints.begin() + static_cast<std::ptrdiff_t>(i));
-            }
-            else
-            {
-                detail::InsertJoint(joints, limit, side);
-                reached = true;
-            }
-        }
-        else
-        {
-            ++i;
-        }
+        return;
     }
+    if (std::none_of(joints.begin(), firstOut, isAtLimit))
+    {
+        detail::InsertJoint(joints, limit, side);
+    }
+    joints.erase(std::remove_if(joints.begin(), joints.end(), isBeyond), joints.end());
 }
 
 void Composition::LimitToOneLap(JointList& joints) const
@@ -306,10 +367,13 @@ void Composition::LimitToOneLap(JointList& joints) const
     CutBeyond(joints, DestinationSide, destinationLimit, m_sameWay);
 }
 
-CPolyPosMap Composition::MakeResult(const JointList& joints) const
+CPolyPosMap Composition::MakeResult(JointList& joints) const
 {
-    CPolyPosMap result(joints, m_first.SrcSegmentCount(), m_second.DstSegmentCount());
-    if (result.IsIncrease(SourceSide) != m_first.IsIncrease(SourceSide))
+    CPolyPosMap result;
+    result.PosPairs().swap(joints);
+    result.SrcSegmentCount() = m_first.SrcSegmentCount();
+    result.DstSegmentCount() = m_second.DstSegmentCount();
+    if (result.IsIncrease(SourceSide) != detail::RunsUpward(m_first.PosPairs(), SourceSide))
     {
         result.Reverse();
     }
@@ -320,7 +384,8 @@ CPolyPosMap Composition::MakeResult(const JointList& joints) const
 
 CPolyPosMap Composition::Compose()
 {
-    CollectKeys();
+    CollectLandings();
+    CollectPlaces();
     CollectImages();
     ReduceRuns();
     JointList joints = JointsInWalkingOrder();
@@ -336,32 +401,33 @@ CPolyPosMap Composition::Compose()
 
 CPolyPosMap CPolyPosMap::operator*(const CPolyPosMap& other) const
 {
-    if (IsInvalid() || other.IsInvalid())
+    CPolyPosMap moved;
+    CPolyPosMap otherMoved;
+    const CPolyPosMap* const first = InNormalForm(*this, moved);
+    const CPolyPosMap* const second = InNormalForm(other, otherMoved);
+    if (first == nullptr || second == nullptr)
     {
         return CPolyPosMap();
     }
-    CPolyPosMap first(*this);
-    CPolyPosMap second(other);
-    if (!BringToNormalForm(first) || !BringToNormalForm(second))
+    if (first->IsEmpty())
     {
-        return CPolyPosMap();
+        return *second;
     }
-    if (first.IsEmpty())
+    if (second->IsEmpty())
     {
-        return second;
+        return *first;
     }
-    if (second.IsEmpty())
-    {
-        return first;
-    }
-    return Composition(first, second).Compose();
+    return Composition(*first, *second).Compose();
 }
 
 CPolyPosMap& CPolyPosMap::operator*=(const CPolyPosMap& other)
 {
     if (!IsInvalid())
     {
-        *this = *this * other;
+        CPolyPosMap product = *this * other;
+        m_posPairs.swap(product.m_posPairs);
+        m_srcSegmentCount = product.m_srcSegmentCount;
+        m_dstSegmentCount = product.m_dstSegmentCount;
     }
     return *this;
 }

@@ -1,5 +1,6 @@
 #include "math/CPolyPosMapUtilies.h"
 
+#include "position/MapEvaluator.h"
 #include "position/PairList.h"
 #include "primitives/Tolerance.h"
 
@@ -199,11 +200,16 @@ CPolyPosMap CPolyPosMapUtilies::GeneratePosMapFromSegmentMap(const std::vector<i
 
 std::vector<int> CPolyPosMapUtilies::GetSegmentMapFronPosMap(const CPolyPosMap& map)
 {
+    detail::MapEvaluator evaluator(map);
     std::vector<int> segments;
+    std::vector<double> atStart;
+    std::vector<double> atEnd;
+    evaluator.AppendImages(0.0, atEnd);
     for (int i = 0; i < map.SrcSegmentCount(); ++i)
     {
-        const std::vector<double> atStart = map * static_cast<double>(i);
-        const std::vector<double> atEnd = map * (static_cast<double>(i) + 1.0);
+        atStart.swap(atEnd);
+        atEnd.clear();
+        evaluator.AppendImages(static_cast<double>(i) + 1.0, atEnd);
         segments.push_back(atEnd.empty() ? -1 : ImageSegment(atStart, map.DstSegmentCount()));
     }
     for (std::size_t i = 1; i < segments.size(); ++i)

@@ -1,5 +1,7 @@
 #include "math/CPolyPosMap.h"
 
+#include "position/Columns.h"
+#include "position/MapEvaluator.h"
 #include "position/PairList.h"
 #include "primitives/Tolerance.h"
 
@@ -21,7 +23,7 @@ namespace
 /// Sorts images and drops each one that is near the last one kept.
 void SortUniqueImages(std::vector<double>& images, bool ascending)
 {
-    detail::SortPositions(images, ascending);
+    detail::SortPositions(images.begin(), images.end(), ascending);
     std::size_t kept = 0;
     for (const double image : images)
     {
@@ -37,49 +39,60 @@ void SortUniqueImages(std::vector<double>& images, bool ascending)
 
 std::vector<double> CPolyPosMap::MultyDouble(const std::vector<std::pair<double, double>>& pairs, const double& pos)
 {
-    return detail::Evaluate(pairs, pos);
+    if (pairs.empty())
+    {
+        return {pos};
+    }
+    std::vector<double> images;
+    detail::AppendImages(pairs, pos, SourceSide, images);
+    return images;
 }
 
 std::vector<double> CPolyPosMap::operator*(const double& pos) const
 {
-    if (IsInvalid())
+    detail::MapEvaluator evaluator(*this);
+    if (!evaluator.IsOrdered() && !evaluator.IsIllFormed())
     {
-        return {};
+        return MultyDouble(m_posPairs, evaluator.MoveToLap(pos));
     }
-    return MultyDouble(m_posPairs, PosRangeD::NormalizePos(pos, GetRange(SourceSide, false), m_srcSegmentCount));
+    std::vector<double> images;
+    evaluator.AppendImages(pos, images);
+    return images;
 }
 
 std::vector<double> CPolyPosMap::MultyDouble(const double& pos, const bool& bothSeamFaces,
                                              const bool& liftSeamImages) const
 {
-    if (IsInvalid())
+    detail::MapEvaluator evaluator(*this);
+    if (evaluator.IsIllFormed())
     {
         return {};
     }
     const double countFace = m_srcSegmentCount;
-    const double wrapped = PosRangeD::NormalizePos(pos, GetRange(SourceSide, false), m_srcSegmentCount);
-    const bool up = IsIncrease(DestinationSide);
+    const double wrapped = evaluator.MoveToLap(pos);
+    const bool up = detail::RunsUpward(m_posPairs, DestinationSide);
     std::vector<double> atZero;
     std::vector<double> atCount;
     if (detail::IsZero(wrapped))
     {
-        atZero = *this * wrapped;
+        evaluator.AppendImages(wrapped, atZero);
         if (bothSeamFaces)
         {
-            atCount = *this * countFace;
+            evaluator.AppendImages(countFace, atCount);
         }
     }
     else if (AreEqual(wrapped, countFace))
     {
-        atCount = *this * wrapped;
+        evaluator.AppendImages(wrapped, atCount);
         if (bothSeamFaces)
         {
-            atZero = *this * 0.0;
+            evaluator.AppendImages(0.0, atZero);
         }
     }
     else
     {
-        std::vector<double> elsewhere = *this * wrapped;
+        std::vector<double> elsewhere;
+        evaluator.AppendImages(wrapped, elsewhere);
         SortUniqueImages(elsewhere, up);
         return elsewhere;
     }

@@ -1,9 +1,12 @@
 #include "math/CPolyPosMap.h"
 
+#include "position/Columns.h"
 #include "position/PairList.h"
 #include "primitives/Tolerance.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstddef>
 #include <cstdint>
 
 namespace math
@@ -50,6 +53,82 @@ std::int64_t NodeAtOrPast(double position)
     return detail::IsZero(PosRangeD::GetRadio(position)) ? node : node + 1;
 }
 
+/// The whole positions of one lap.
+struct Nodes
+{
+    std::int64_t first;
+    std::int64_t last;
+};
+
+/// Gives a rising column a joint at every node in one sweep. A node is interpolated between the joint before it, which
+/// may be the node before, and the joint after it, as if the nodes were inserted one by one.
+///
+/// @param isMirrored  the list was turned round for the sweep: it is interpolated the way it really runs
+JointList FillRising(const JointList& joints, int side, const Nodes& nodes, bool isMirrored)
+{
+    const int otherSide = detail::OtherSide(side);
+    JointList filled;
+    filled.reserve(joints.size() + static_cast<std::size_t>(nodes.last - nodes.first + 1));
+    auto next = joints.begin();
+    for (std::int64_t node = nodes.first; node <= nodes.last; ++node)
+    {
+        const double position = static_cast<double>(node);
+        const auto ahead = [&](const Joint& joint) { return ColumnValue(joint, side) - position; };
+        while (next != joints.end() && ahead(*next) <= -DoubleTolerance)
+        {
+            filled.push_back(*next++);
+        }
+        if (next != joints.end() && ahead(*next) < DoubleTolerance)
+        {
+            continue;
+        }
+        Joint added;
+        ColumnValue(added, side) = position;
+        if (filled.empty())
+        {
+            ColumnValue(added, otherSide) = ColumnValue(joints.front(), otherSide);
+        }
+        else if (next == joints.end())
+        {
+            ColumnValue(added, otherSide) = ColumnValue(filled.back(), otherSide);
+        }
+        else
+        {
+            ColumnValue(added, otherSide) = isMirrored
+                                                ? detail::InterpolateBetween(*next, filled.back(), position, side)
+                                                : detail::InterpolateBetween(filled.back(), *next, position, side);
+        }
+        filled.push_back(added);
+    }
+    filled.insert(filled.end(), next, joints.end());
+    return filled;
+}
+
+/// Gives a column a joint at every node.
+void FillNodes(JointList& joints, int side, const Nodes& nodes)
+{
+    const detail::ColumnOrder order = detail::OrderOf(joints, side);
+    const bool standsStill = ColumnValue(joints.front(), side) == ColumnValue(joints.back(), side);
+    if (order == detail::ColumnOrder::Irregular || standsStill)
+    {
+        for (std::int64_t node = nodes.first; node <= nodes.last; ++node)
+        {
+            detail::InsertJoint(joints, static_cast<double>(node), side);
+        }
+        return;
+    }
+    const bool isMirrored = order == detail::ColumnOrder::Falling;
+    if (isMirrored)
+    {
+        std::reverse(joints.begin(), joints.end());
+    }
+    joints = FillRising(joints, side, nodes, isMirrored);
+    if (isMirrored)
+    {
+        std::reverse(joints.begin(), joints.end());
+    }
+}
+
 /// Gives one column a joint at every whole position of a lap. On a map over the seam the lap begins with what the upper
 /// end leaves past the count.
 void FillColumn(JointList& joints, int side, int segmentCount)
@@ -60,10 +139,7 @@ void FillColumn(JointList& joints, int side, int segmentCount)
         return;
     }
     const std::int64_t firstNode = lastNode > segmentCount ? lastNode % segmentCount : 0;
-    for (std::int64_t node = firstNode; node <= firstNode + segmentCount; ++node)
-    {
-        detail::InsertJoint(joints, static_cast<double>(node), side);
-    }
+    FillNodes(joints, side, {firstNode, firstNode + segmentCount});
     const double span = std::abs(ColumnValue(joints.back(), side) - ColumnValue(joints.front(), side));
     if (span > segmentCount && !detail::AreEqual(span, segmentCount))
     {
@@ -126,7 +202,7 @@ void CPolyPosMap::Normalize()
         return;
     }
     // The destination is read where the source is lowest, also on a map whose columns run opposite ways.
-    const Joint lowest = IsIncrease(SourceSide) ? m_posPairs.front() : m_posPairs.back();
+    const Joint lowest = detail::RunsUpward(m_posPairs, SourceSide) ? m_posPairs.front() : m_posPairs.back();
     const std::int64_t sourceLaps = LapsToTakeOff(lowest.first, m_srcSegmentCount);
     const std::int64_t destinationLaps = LapsToTakeOff(lowest.second, m_dstSegmentCount);
     TakeOffLaps(m_posPairs, SourceSide, sourceLaps, m_srcSegmentCount);

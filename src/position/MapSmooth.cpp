@@ -105,33 +105,36 @@ void CPolyPosMap::Smooth(const double& maxStep, const double& maxStepDifference)
     }
     const bool closed = AreEqual(std::abs(joints.back().first - joints.front().first), m_srcSegmentCount) &&
                         AreEqual(std::abs(joints.back().second - joints.front().second), m_dstSegmentCount);
-
-    for (std::size_t before = 0; before + 1 < joints.size();)
-    {
-        const bool atSeam = before + 2 == joints.size();
-        if (atSeam && !closed)
-        {
-            break;
-        }
-        const std::size_t middle = atSeam ? 0 : before + 1;
-        const Corner corner{joints[before], joints[middle], joints[middle + 1], atSeam};
+    const auto goes = [&](const Corner& corner) {
         Legs legs{};
-        const bool goes = FindLegs(corner, m_srcSegmentCount, m_dstSegmentCount, legs) &&
-                          IsShortEnough(legs.before, longestStep) && IsShortEnough(legs.after, longestStep) &&
-                          IsShortEnough(std::abs(legs.before - legs.after), greatestDifference);
-        if (!goes)
-        {
-            ++before;
-            continue;
-        }
-        if (atSeam)
+        return FindLegs(corner, m_srcSegmentCount, m_dstSegmentCount, legs) &&
+               IsShortEnough(legs.before, longestStep) && IsShortEnough(legs.after, longestStep) &&
+               IsShortEnough(std::abs(legs.before - legs.after), greatestDifference);
+    };
+
+    // Kept joints move up behind `before`; `middle` is the next one that has not been looked at.
+    std::size_t before = 0;
+    std::size_t middle = 1;
+    while (middle + 1 < joints.size())
+    {
+        const bool isKept = !goes({joints[before], joints[middle], joints[middle + 1], false});
+        // The joint after a corner that went is where the next triple begins.
+        middle += isKept ? 0 : 1;
+        joints[++before] = joints[middle++];
+    }
+    const Joint last = joints.back();
+    if (middle < joints.size())
+    {
+        joints[before + 1] = last;
+        joints.resize(before + 2);
+        if (closed && goes({joints[before], joints[0], joints[1], true}))
         {
             RemoveSeamCorner(*this);
-            break;
         }
-        joints.erase(joints.begin() + static_cast<std::ptrdiff_t>(middle));
-        // The joint after the corner that went is where the next triple begins.
-        before = middle;
+    }
+    else
+    {
+        joints.resize(before + 1);
     }
     Unique(true);
 }

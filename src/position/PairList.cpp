@@ -2,6 +2,7 @@
 
 #include "math/CPolyPosMap.h"
 #include "math/PosRangeD.h"
+#include "position/SortStably.h"
 #include "primitives/Tolerance.h"
 
 #include <algorithm>
@@ -45,16 +46,43 @@ double Slope(const Joint& from, const Joint& to, int runSide)
            (ColumnValue(to, runSide) - ColumnValue(from, runSide));
 }
 
-/// The equality of positions is exact here, the tolerance belongs to the slopes alone.
-bool IsStraight(const Joint& before, const Joint& joint, const Joint& after, int runSide)
+bool AreNear(const Joint& a, const Joint& b)
 {
-    const double position = ColumnValue(joint, runSide);
-    if (position == ColumnValue(before, runSide) || position == ColumnValue(after, runSide))
-    {
-        return false;
-    }
-    return AreEqual(Slope(before, joint, runSide), Slope(joint, after, runSide));
+    return AreEqual(a.first, b.first) && AreEqual(a.second, b.second);
 }
+
+/// Walks along a list and tells of each joint whether it lies on a straight line between the joint kept before it and
+/// the one after it.
+class StraightTest
+{
+public:
+    explicit StraightTest(int runSide) : m_runSide(runSide)
+    {
+    }
+
+    /// The equality of positions is exact here, the tolerance belongs to the slopes alone.
+    bool operator()(const Joint& before, const Joint& joint, const Joint& after)
+    {
+        const bool keptTheLast = m_knowsSlope;
+        m_knowsSlope = false;
+        const double position = ColumnValue(joint, m_runSide);
+        if (position == ColumnValue(before, m_runSide) || position == ColumnValue(after, m_runSide))
+        {
+            return false;
+        }
+        // The slope behind a joint that stays is the slope before the next one.
+        const double slopeBefore = keptTheLast ? m_slopeBehind : Slope(before, joint, m_runSide);
+        m_slopeBehind = Slope(joint, after, m_runSide);
+        const bool isStraight = AreEqual(slopeBefore, m_slopeBehind);
+        m_knowsSlope = !isStraight;
+        return isStraight;
+    }
+
+private:
+    int m_runSide;
+    bool m_knowsSlope = false;
+    double m_slopeBehind = 0.0;
+};
 
 } // namespace
 
@@ -74,6 +102,10 @@ int SaturateToInt(std::int64_t value)
 
 std::int64_t WholeLaps(double position, int segmentCount)
 {
+    if (position >= 0 && position < segmentCount)
+    {
+        return 0;
+    }
     // Wide enough for the least int divided by -1.
     return static_cast<std::int64_t>(PosRangeD::GetSegmentIndex(position)) / segmentCount;
 }
@@ -118,34 +150,35 @@ int FindRightIndex(const JointList& joints, double position, int side)
     return IndexFromFront(joints, std::find_if(joints.begin(), joints.end(), isAfter));
 }
 
-std::vector<double> Evaluate(const JointList& joints, double position)
+double InterpolateBetween(const Joint& from, const Joint& to, double position, int side)
 {
-    if (joints.empty())
-    {
-        return {position};
-    }
-    std::vector<double> images;
+    const int otherSide = OtherSide(side);
+    return Interpolate(position, ColumnValue(from, side), ColumnValue(from, otherSide), ColumnValue(to, side),
+                       ColumnValue(to, otherSide));
+}
+
+void AppendImages(const JointList& joints, double position, int side, std::vector<double>& images)
+{
+    bool isAtJoint = false;
     for (const Joint& joint : joints)
     {
-        if (AreEqual(joint.first, position))
+        if (AreEqual(ColumnValue(joint, side), position))
         {
-            images.push_back(joint.second);
+            images.push_back(ColumnValue(joint, OtherSide(side)));
+            isAtJoint = true;
         }
     }
-    if (!images.empty())
+    if (isAtJoint)
     {
-        return images;
+        return;
     }
-    const int left = FindLeftIndex(joints, position, SourceSide);
-    const int right = FindRightIndex(joints, position, SourceSide);
-    if (left == -1 || right == -1)
+    const int left = FindLeftIndex(joints, position, side);
+    const int right = FindRightIndex(joints, position, side);
+    if (left != -1 && right != -1)
     {
-        return images;
+        images.push_back(InterpolateBetween(joints[static_cast<std::size_t>(left)],
+                                            joints[static_cast<std::size_t>(right)], position, side));
     }
-    const Joint& from = joints[static_cast<std::size_t>(left)];
-    const Joint& to = joints[static_cast<std::size_t>(right)];
-    images.push_back(Interpolate(position, from.first, from.second, to.first, to.second));
-    return images;
 }
 
 Joint InsertJoint(JointList& joints, double position, int side)
@@ -178,10 +211,8 @@ Joint InsertJoint(JointList& joints, double position, int side)
     }
     else
     {
-        const Joint& from = joints[static_cast<std::size_t>(left)];
-        const Joint& to = joints[static_cast<std::size_t>(right)];
-        ColumnValue(added, otherSide) = Interpolate(position, ColumnValue(from, side), ColumnValue(from, otherSide),
-                                                    ColumnValue(to, side), ColumnValue(to, otherSide));
+        ColumnValue(added, otherSide) = InterpolateBetween(joints[static_cast<std::size_t>(left)],
+                                                           joints[static_cast<std::size_t>(right)], position, side);
         joints.insert(joints.begin() + right, added);
     }
     return added;
@@ -196,7 +227,7 @@ void RemoveRepeated(JointList& joints)
     std::size_t lastKept = 0;
     for (std::size_t i = 1; i < joints.size(); ++i)
     {
-        if (!CPolyPosMap::IsPosPairEqual(joints[lastKept], joints[i]))
+        if (!AreNear(joints[lastKept], joints[i]))
         {
             joints[++lastKept] = joints[i];
         }
@@ -210,10 +241,11 @@ void RemoveStraight(JointList& joints, int runSide)
     {
         return;
     }
+    StraightTest isStraight(runSide);
     std::size_t lastKept = 0;
     for (std::size_t i = 1; i + 1 < joints.size(); ++i)
     {
-        if (!IsStraight(joints[lastKept], joints[i], joints[i + 1], runSide))
+        if (!isStraight(joints[lastKept], joints[i], joints[i + 1]))
         {
             joints[++lastKept] = joints[i];
         }
@@ -229,17 +261,20 @@ void Tidy(JointList& joints)
     RemoveStraight(joints, DestinationSide);
 }
 
-void SortPositions(std::vector<double>& positions, bool ascending)
+void SortPositions(std::vector<double>::iterator begin, std::vector<double>::iterator end, bool ascending)
 {
-    const auto comesBefore = [ascending](double a, double b) {
-        if (std::isnan(a) || std::isnan(b))
-        {
-            return std::isnan(b) && !std::isnan(a);
-        }
-        return ascending ? a < b : a > b;
-    };
-    // Stable, so that zeros of either sign keep their places whatever the standard library.
-    std::stable_sort(positions.begin(), positions.end(), comesBefore);
+    SortStably(begin, end, [ascending](double a, double b) { return LiesBefore(a, b, ascending); });
+}
+
+bool IsIdentityList(const JointList& joints, int srcSegmentCount, int dstSegmentCount)
+{
+    if (joints.empty())
+    {
+        return true;
+    }
+    return srcSegmentCount == dstSegmentCount && std::all_of(joints.begin(), joints.end(), [](const Joint& joint) {
+               return AreEqual(joint.first, joint.second);
+           });
 }
 
 } // namespace math::detail

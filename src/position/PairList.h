@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cmath>
 #include <cstdint>
 #include <utility>
 #include <vector>
@@ -53,9 +54,12 @@ int FindLeftIndex(const JointList& joints, double position, int side);
 /// Index of the first joint at or after `position` in walking order, or -1.
 int FindRightIndex(const JointList& joints, double position, int side);
 
-/// Images of a raw source position: those of all joints near it, else one by interpolation, else none. An empty list
-/// hands the position through.
-std::vector<double> Evaluate(const JointList& joints, double position);
+/// Appends the positions of the other column that answer to a raw position of a side: those of all joints near it, else
+/// one by interpolation, else none. Every joint is looked at; see JointLookup for many positions.
+void AppendImages(const JointList& joints, double position, int side, std::vector<double>& images);
+
+/// The value of the other column at a position of a side between two joints.
+double InterpolateBetween(const Joint& from, const Joint& to, double position, int side);
 
 /// Gives the joint at a raw position of a side, adding it if there is none. The list is left alone and the answer is
 /// (-1.0, -1.0) for an unknown side or an empty list.
@@ -70,7 +74,21 @@ void RemoveStraight(JointList& joints, int runSide);
 /// RemoveRepeated, then RemoveStraight along the source and along the destination.
 void Tidy(JointList& joints);
 
-/// Sorts a list of positions upward or downward. NaN goes last, so that the order is always well defined.
-void SortPositions(std::vector<double>& positions, bool ascending);
+/// Tells whether a position comes before another on the way up or down. NaN comes last, so that the order is always
+/// well defined.
+inline bool LiesBefore(double a, double b, bool ascending)
+{
+    if (std::isnan(a) || std::isnan(b))
+    {
+        return std::isnan(b) && !std::isnan(a);
+    }
+    return ascending ? a < b : a > b;
+}
+
+/// Sorts positions upward or downward, NaN last.
+void SortPositions(std::vector<double>::iterator begin, std::vector<double>::iterator end, bool ascending);
+
+/// Tells whether a map with these joints changes nothing.
+bool IsIdentityList(const JointList& joints, int srcSegmentCount, int dstSegmentCount);
 
 } // namespace math::detail

@@ -1,5 +1,6 @@
 #include "math/PosRangeD.h"
 
+#include "position/LapMover.h"
 #include "position/PairList.h"
 #include "primitives/Tolerance.h"
 
@@ -100,39 +101,7 @@ double PosRangeD::NormalizePos(const double& pos, const int& segmentCount)
 
 double PosRangeD::NormalizePos(const double& pos, const PosRangeD& range, const int& segmentCount)
 {
-    if (segmentCount == 0)
-    {
-        return NoPosition;
-    }
-    const double lowEnd = range.start;
-    double highEnd = range.end;
-    if (lowEnd > highEnd || AreEqual(lowEnd, highEnd))
-    {
-        highEnd += segmentCount;
-    }
-    if (AreEqual(pos, lowEnd) || AreEqual(pos, highEnd))
-    {
-        return pos;
-    }
-    const bool isAtSeam = IsZero(pos) || AreEqual(pos, segmentCount);
-    if (std::isinf(pos) || (segmentCount < 0 && !isAtSeam))
-    {
-        return NormalizePos(pos, segmentCount);
-    }
-
-    const double firstLap = static_cast<double>(detail::WholeLaps(lowEnd, segmentCount));
-    double lastLap = static_cast<double>(detail::WholeLaps(highEnd, segmentCount));
-    if (AreEqual(highEnd, lastLap * segmentCount))
-    {
-        // An end at a seam belongs to the lap that it closes.
-        lastLap -= 1.0;
-    }
-    double moved = NormalizePos(pos, segmentCount) + firstLap * segmentCount;
-    if (firstLap != lastLap && lowEnd > moved)
-    {
-        moved += segmentCount;
-    }
-    return moved;
+    return detail::LapMover(range, segmentCount)(pos);
 }
 
 bool PosRangeD::IsEmpty() const

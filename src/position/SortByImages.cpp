@@ -16,30 +16,46 @@ constexpr std::size_t InsertionBlock = 32;
 class WalkedBefore
 {
 public:
-    WalkedBefore(const ImageTable& images, bool upward) : m_images(images), m_upward(upward)
+    WalkedBefore(const std::vector<double>& images, bool upward) : m_images(images), m_upward(upward)
     {
     }
 
-    bool operator()(double place, double otherPlace) const
+    bool operator()(const Station& station, const Station& other) const
     {
-        const std::vector<double>& own = m_images.find(place)->second;
-        const std::vector<double>& other = m_images.find(otherPlace)->second;
-        return LiesBefore(own.back(), other.back()) && LiesBefore(own.front(), other.front());
+        return LiesBefore(Last(station), Last(other)) && LiesBefore(First(station), First(other));
+    }
+
+    /// Tells, without tolerance, that neither end of the images of `next` lies before those of `station`. Stations that
+    /// follow one another like this never change places.
+    bool IsInOrder(const Station& station, const Station& next) const
+    {
+        return m_upward ? First(station) <= First(next) && Last(station) <= Last(next)
+                        : First(station) >= First(next) && Last(station) >= Last(next);
     }
 
 private:
+    double First(const Station& station) const
+    {
+        return m_images[station.imagesBegin];
+    }
+
+    double Last(const Station& station) const
+    {
+        return m_images[station.imagesEnd - 1];
+    }
+
     bool LiesBefore(double image, double otherImage) const
     {
         return !AreEqual(image, otherImage) && (m_upward ? image < otherImage : image > otherImage);
     }
 
-    const ImageTable& m_images;
+    const std::vector<double>& m_images;
     bool m_upward;
 };
 
-using Iterator = std::vector<double>::iterator;
+using Iterator = std::vector<Station>::iterator;
 
-/// A place before the very first goes to the front at once; any other walks back from where it stands.
+/// A station before the very first goes to the front at once; any other walks back from where it stands.
 void SortByInsertion(Iterator first, Iterator last, const WalkedBefore& before)
 {
     for (Iterator current = first; current != last; ++current)
@@ -60,10 +76,10 @@ void SortByInsertion(Iterator first, Iterator last, const WalkedBefore& before)
     }
 }
 
-/// Merges two sorted neighbours. A place of the second comes first only if it is walked before.
-std::vector<double> Merge(Iterator first, Iterator middle, Iterator last, const WalkedBefore& before)
+/// Merges two sorted neighbours. A station of the second comes first only if it is walked before.
+std::vector<Station> Merge(Iterator first, Iterator middle, Iterator last, const WalkedBefore& before)
 {
-    std::vector<double> merged;
+    std::vector<Station> merged;
     merged.reserve(static_cast<std::size_t>(last - first));
     Iterator left = first;
     Iterator right = middle;
@@ -78,12 +94,19 @@ std::vector<double> Merge(Iterator first, Iterator middle, Iterator last, const 
 
 } // namespace
 
-void SortByImages(std::vector<double>& places, const ImageTable& images, bool upward)
+void SortByImages(std::vector<Station>& stations, const std::vector<double>& images, bool upward)
 {
     const WalkedBefore before(images, upward);
-    const std::size_t count = places.size();
+    const auto isOutOfOrder = [&](const Station& station, const Station& next) {
+        return !before.IsInOrder(station, next);
+    };
+    if (std::adjacent_find(stations.begin(), stations.end(), isOutOfOrder) == stations.end())
+    {
+        return;
+    }
+    const std::size_t count = stations.size();
     const auto at = [&](std::size_t index) {
-        return places.begin() + static_cast<std::ptrdiff_t>(std::min(index, count));
+        return stations.begin() + static_cast<std::ptrdiff_t>(std::min(index, count));
     };
     for (std::size_t block = 0; block < count; block += InsertionBlock)
     {
@@ -93,7 +116,7 @@ void SortByImages(std::vector<double>& places, const ImageTable& images, bool up
     {
         for (std::size_t block = 0; block + width < count; block += 2 * width)
         {
-            const std::vector<double> merged = Merge(at(block), at(block + width), at(block + 2 * width), before);
+            const std::vector<Station> merged = Merge(at(block), at(block + width), at(block + 2 * width), before);
             std::copy(merged.begin(), merged.end(), at(block));
         }
     }
