@@ -205,6 +205,40 @@ void MeasureTangents(Run& run, const EllipseSetting& setting)
     });
 }
 
+/// Directions and points within the tolerance of an axis count as those of the axis.
+void MeasureTangentsNextToTheAxes(Run& run)
+{
+    run.Stratum("GetTangentAngleOfEllipse", "within 1e-9 of a vertex", "1e-9 of a/b²", 100, [](Draw& draw, Row& row) {
+        const EllipseInput ellipse(draw, 1.0, 10.0, 0.0);
+        const double v = draw.Signed(0.9e-9);
+        const double u = ellipse.a * std::sqrt(1.0 - v / ellipse.b * (v / ellipse.b));
+        const DPOINT2 point(u * std::cos(ellipse.rotation) - v * std::sin(ellipse.rotation),
+                            u * std::sin(ellipse.rotation) + v * std::cos(ellipse.rotation));
+        const double told = GetTangentAngleOfEllipse({}, ellipse.a, ellipse.b, ellipse.rotation, point);
+        const RealPoint gradient = Conic({}, ellipse.a, ellipse.b, ellipse.rotation).Gradient(point);
+        row.Add(CircularDistance(told, Atan2(-gradient.x, gradient.y), Pi()),
+                1e-9 * ellipse.a / (ellipse.b * ellipse.b), 1.0,
+                [=] { return ellipse.Describe() + Text("x", point.x, "y", point.y); });
+    });
+    run.Stratum("GetTangentPointOfEllipse", "within 1e-9 of an axis", "1e-9 of the greatest radius of curvature", 100,
+                [](Draw& draw, Row& row) {
+                    const EllipseInput ellipse(draw, 1.0, 10.0, 0.0);
+                    const double radian = ellipse.rotation + (draw.Coin() ? HalfPi : 0.0) + draw.Signed(0.9e-9);
+                    DPOINT2 told;
+                    GetTangentPointOfEllipse({}, ellipse.a, ellipse.b, ellipse.rotation, radian, &told, nullptr);
+                    const Conic conic({}, ellipse.a, ellipse.b, ellipse.rotation);
+                    const Real turned = Real(radian) - ellipse.rotation;
+                    const Real along = conic.a * Sin(turned);
+                    const Real across = conic.b * Cos(turned);
+                    const Real support = Hypot(along, across);
+                    const RealPoint own(conic.a * along / support, -conic.b * across / support);
+                    const RealPoint truth = Turned(own, conic.axis);
+                    row.Add(Min(Distance(RealPoint(told), truth), Distance(RealPoint(told), RealPoint() - truth)),
+                            1e-9 * ellipse.a * ellipse.a / ellipse.b, 1.0,
+                            [=] { return ellipse.Describe() + Text("radian", radian); });
+                });
+}
+
 /// The axes of an ellipse under a linear map diag(factorX, factorY), from the matrix whose level curve the image is.
 struct TrueAxes
 {
@@ -474,6 +508,7 @@ void MeasureConstructions(Run& run)
         MeasureTangents(run, setting);
     }
     MeasurePointsAtQuarterTurns(run);
+    MeasureTangentsNextToTheAxes(run);
     MeasureHeights(run);
     for (const ScaleSetting& setting : ScaleSettings)
     {

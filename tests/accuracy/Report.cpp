@@ -130,27 +130,98 @@ void Run::Stratum(const std::string& function, const std::string& stratum, const
     rows.push_back(row);
 }
 
-void PrintMarkdown(std::ostream& out, const std::vector<Row>& rows, const Bounds& bounds)
+namespace
 {
-    out << "| function | input | cases | unit | worst, units | worst / condition | bound | worst, absolute | missed | "
-           "extra |\n|---|---|--:|---|--:|--:|--:|--:|--:|--:|\n";
+
+/// The row of a function that comes nearest to its bound, with the counts of all of its rows.
+struct Summary
+{
+    Row nearest;
+    double bound = 0.0;
+    long cases = 0;
+    long expected = 0;
+    long missed = 0;
+    long extra = 0;
+
+    double Share() const
+    {
+        return nearest.worstConditioned / bound;
+    }
+
+    void Take(const Row& row, const Bound& ofRow)
+    {
+        if (cases == 0 || row.worstConditioned / ofRow.conditioned > Share())
+        {
+            nearest = row;
+            bound = ofRow.conditioned;
+        }
+        cases += row.cases;
+        expected += row.expected;
+        missed += row.missed;
+        extra += row.extra;
+    }
+};
+
+std::string Counts(long expected, long missed, long extra)
+{
+    if (expected == 0)
+    {
+        return " | |";
+    }
+    return std::to_string(missed) + " of " + std::to_string(expected) + " | " + std::to_string(extra) + " |";
+}
+
+void PrintSummaries(std::ostream& out, const std::vector<Row>& rows, const Bounds& bounds)
+{
+    std::vector<std::string> order;
+    std::map<std::string, Summary> summaries;
+    for (const Row& row : rows)
+    {
+        if (summaries.count(row.function) == 0)
+        {
+            order.push_back(row.function);
+        }
+        if (const Bound* bound = bounds.Find(row))
+        {
+            summaries[row.function].Take(row, *bound);
+        }
+    }
+    out << "\n## A line for each function\n\nThe input that comes nearest to its bound, and all missed and extra "
+           "points.\n\n"
+           "| function | cases | worst / condition | bound | unit | nearest to the bound | missed | extra |\n"
+           "|---|--:|--:|--:|---|---|--:|--:|\n";
+    for (const std::string& function : order)
+    {
+        const Summary& summary = summaries[function];
+        out << "| " << function << " | " << summary.cases << " | " << Short(summary.nearest.worstConditioned) << " | "
+            << Short(summary.bound) << " | " << summary.nearest.unit << " | " << summary.nearest.stratum << " | "
+            << Counts(summary.expected, summary.missed, summary.extra) << '\n';
+    }
+}
+
+void PrintRows(std::ostream& out, const std::vector<Row>& rows, const Bounds& bounds)
+{
+    out << "\n## All inputs\n\n"
+           "| function | input | unit | worst, units | worst / condition | bound | worst, absolute | missed | extra |\n"
+           "|---|---|---|--:|--:|--:|--:|--:|--:|\n";
     for (const Row& row : rows)
     {
         const Bound* bound = bounds.Find(row);
-        out << "| " << row.function << " | " << row.stratum << " | " << row.cases << " | " << row.unit << " | "
-            << Short(row.worstUnits) << " | " << Short(row.worstConditioned) << " | "
-            << (bound != nullptr ? Short(bound->conditioned) + (bound->basis == "theory" ? " t" : " m") : "none")
-            << " | " << Short(row.worstAbsolute) << " | ";
-        if (row.expected > 0)
-        {
-            out << row.missed << " of " << row.expected << " | " << row.extra << " |\n";
-        }
-        else
-        {
-            out << (row.missed > 0 ? std::to_string(row.missed) : "") << " | |\n";
-        }
+        out << "| " << row.function << " | " << row.stratum << " | " << row.unit << " | " << Short(row.worstUnits)
+            << " | " << Short(row.worstConditioned) << " | " << (bound != nullptr ? Short(bound->conditioned) : "none")
+            << " | " << Short(row.worstAbsolute) << " | " << Counts(row.expected, row.missed, row.extra) << '\n';
     }
-    out << "\n## Reasons of the bounds\n\n| function | input | bound | reason |\n|---|---|--:|---|\n";
+}
+
+std::string Percent(double share)
+{
+    return share == 0.0 ? "0" : Short(share * 100.0) + "%";
+}
+
+void PrintReasons(std::ostream& out, const std::vector<Row>& rows, const Bounds& bounds)
+{
+    out << "\n## Reasons of the bounds\n\n"
+           "| function | input | bound | missed | extra | basis | reason |\n|---|---|--:|--:|--:|---|---|\n";
     std::vector<const Bound*> told;
     for (const Row& row : rows)
     {
@@ -160,12 +231,21 @@ void PrintMarkdown(std::ostream& out, const std::vector<Row>& rows, const Bounds
             continue;
         }
         told.push_back(bound);
-        Row whole = row;
-        whole.stratum = "*";
-        const bool isOfAll = bounds.Find(whole) == bound;
-        out << "| " << row.function << " | " << (isOfAll ? "all others" : row.stratum) << " | "
-            << Short(bound->conditioned) << " " << bound->basis << " | " << bound->reason << " |\n";
+        Row others = row;
+        others.stratum = "*";
+        out << "| " << row.function << " | " << (bounds.Find(others) == bound ? "in general" : row.stratum) << " | "
+            << Short(bound->conditioned) << " | " << Percent(bound->missedShare) << " | " << Percent(bound->extraShare)
+            << " | " << bound->basis << " | " << bound->reason << " |\n";
     }
+}
+
+} // namespace
+
+void PrintMarkdown(std::ostream& out, const std::vector<Row>& rows, const Bounds& bounds)
+{
+    PrintSummaries(out, rows, bounds);
+    PrintRows(out, rows, bounds);
+    PrintReasons(out, rows, bounds);
 }
 
 void PrintWorst(std::ostream& out, const std::vector<Row>& rows)

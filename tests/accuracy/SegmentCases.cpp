@@ -337,6 +337,18 @@ void MeasureQueries(Run& run, const Setting& setting)
     });
 }
 
+/// An arc so flat that it counts as its chord.
+void MeasureChords(Run& run)
+{
+    run.Stratum("CSegment::GetPoint", "arc, bulge below 1e-9", "1e-9 of half the chord", 100, [](Draw& draw, Row& row) {
+        const Piece piece(draw, {"", 1e-12, 0.99e-9, 1.0, 0.0});
+        const double t = draw.Unit();
+        row.Add(Distance(RealPoint(piece.segment.GetPoint(t)), piece.At(t)),
+                1e-9 * Norm(piece.chord) * 0.5 + 4.0 * RoundingUnit, 1.0,
+                [=] { return piece.Describe() + Text("t", t); });
+    });
+}
+
 // ---- Bezier curves ----
 
 struct Bezier
@@ -639,6 +651,7 @@ void MeasureSegments(Run& run)
         MeasureEvaluation(run, setting);
         MeasureQueries(run, setting);
     }
+    MeasureChords(run);
     MeasureBezier(run);
     MeasureBoxes(run);
     for (const OutlineSetting& setting : OutlineSettings)
