@@ -7,6 +7,7 @@
 #include <cstring>
 #include <exception>
 #include <iostream>
+#include <optional>
 #include <string>
 
 namespace
@@ -72,6 +73,8 @@ Options Read(int count, char** arguments)
 int Act(const Options& options)
 {
     using namespace math::accuracy;
+    const std::optional<Bounds> bounds =
+        options.bounds.empty() ? std::nullopt : std::make_optional<Bounds>(options.bounds);
     Run run(options.load, options.only);
     MeasureAngles(run);
     MeasureDistances(run);
@@ -83,12 +86,12 @@ int Act(const Options& options)
 
     if (options.markdown)
     {
-        PrintMarkdown(std::cout, run.Rows(), Bounds(options.bounds));
+        PrintMarkdown(std::cout, run.Rows(), *bounds);
         return EXIT_SUCCESS;
     }
     if (options.check)
     {
-        const int failures = CheckBounds(std::cout, run.Rows(), Bounds(options.bounds), options.tighten);
+        const int failures = CheckBounds(std::cout, run.Rows(), *bounds, options.tighten);
         std::cout << run.Rows().size() << " rows, " << failures << " beyond their bounds\n";
         return failures == 0 && !run.Rows().empty() ? EXIT_SUCCESS : EXIT_FAILURE;
     }
