@@ -102,14 +102,6 @@ void MeasureStraight(Run& run, const Setting& setting)
     });
 }
 
-/// How far the direction of a beeline turns by rounding, in units: it is that of (x + 1, y + tan angle) - (x, y).
-double LossOfBeeline(const DPOINT2& origin, double angle)
-{
-    const double cosine = std::abs(std::cos(angle));
-    const double sine = std::abs(std::sin(angle));
-    return cosine * (cosine * std::abs(origin.y) + sine * (std::abs(origin.x) + 1.0));
-}
-
 void MeasureBeelineDistance(Run& run, const Setting& setting)
 {
     run.Stratum("D2GetPointToBeelineDistance", setting.name, OfReach, 150, [&](Draw& draw, Row& row) {

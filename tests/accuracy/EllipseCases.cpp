@@ -53,11 +53,6 @@ EllipseArc DrawEllipse(Draw& draw, double size, double flatness)
     return ellipse;
 }
 
-std::vector<DPOINT2> FirstOf(int count, const DPOINT2* told, int most)
-{
-    return {told, told + std::max(0, std::min(count, most))};
-}
-
 // ---- Straight lines with ellipses ----
 
 struct LineSetting
@@ -324,8 +319,8 @@ struct TwoEllipses
     }
 
     /// The search ends where the heights differ by less than 1e-9 or its range of x is narrower than that. The first
-    /// leaves the point off by that over the sine of the crossing, the second by that over the cosine of the slope; both
-    /// by no more than 1e-9 moves a point along a tangency.
+    /// leaves the point off by that over the sine of the crossing, the second by that over the cosine of the slope;
+    /// both by no more than 1e-9 moves a point along a tangency.
     std::vector<CommonPoint> Truth() const
     {
         const double most = std::sqrt(2.0 * std::max(first.Curvature(), second.Curvature()) / Tolerance);

@@ -53,14 +53,6 @@ DPOINT2 Place(Draw& draw, const Setting& setting)
             draw.Signed(setting.offset) + draw.Signed(setting.size)};
 }
 
-/// How far the direction of a beeline turns by rounding, in units: it is that of (x + 1, y + tan angle) - (x, y).
-double LossOfBeeline(const DPOINT2& origin, double angle)
-{
-    const double cosine = std::abs(std::cos(angle));
-    const double sine = std::abs(std::sin(angle));
-    return cosine * (cosine * std::abs(origin.y) + sine * (std::abs(origin.x) + 1.0));
-}
-
 // ---- Two straight lines ----
 
 struct LineSetting
@@ -266,15 +258,10 @@ struct LineAndCircle
     }
 };
 
-std::vector<DPOINT2> FirstOf(int count, const DPOINT2* told)
-{
-    return {told, told + std::max(count, 0)};
-}
-
 void CompareWith(Row& row, const LineAndCircle& input, int count, const DPOINT2* told,
                  const std::vector<CommonPoint>& truth)
 {
-    Compare(row, FirstOf(count, told), truth, Real(input.Scale()) * RoundingUnit, 0.1 * input.radius,
+    Compare(row, FirstOf(count, told, 2), truth, Real(input.Scale()) * RoundingUnit, 0.1 * input.radius,
             [=] { return input.Describe(); });
 }
 
@@ -407,7 +394,7 @@ struct TwoCircles
 void CompareWith(Row& row, const TwoCircles& input, int count, const DPOINT2* told,
                  const std::vector<CommonPoint>& truth)
 {
-    Compare(row, FirstOf(count, told), truth, Real(input.Scale()) * RoundingUnit,
+    Compare(row, FirstOf(count, told, 2), truth, Real(input.Scale()) * RoundingUnit,
             0.1 * std::min(input.firstRadius, input.secondRadius), [=] { return input.Describe(); });
 }
 

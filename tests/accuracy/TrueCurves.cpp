@@ -215,6 +215,18 @@ double LargestCoordinate(const std::vector<DPOINT2>& points)
     return largest;
 }
 
+double LossOfBeeline(const DPOINT2& origin, double angle)
+{
+    const double cosine = std::abs(std::cos(angle));
+    const double sine = std::abs(std::sin(angle));
+    return cosine * (cosine * std::abs(origin.y) + sine * (std::abs(origin.x) + 1.0));
+}
+
+std::vector<DPOINT2> FirstOf(int count, const DPOINT2* told, int most)
+{
+    return {told, told + std::max(0, std::min(count, most))};
+}
+
 Real Evaluate(const Polynomial& polynomial, const Real& x)
 {
     Real value = polynomial.back();

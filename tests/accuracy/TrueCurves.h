@@ -9,7 +9,8 @@
 #include <vector>
 
 // Plane curves in high precision and where they meet, by ways that have nothing in common with the library's: common
-// points are roots of a polynomial of degree four, isolated between its stationary points and counted by Sturm's theorem.
+// points are roots of a polynomial of degree four, isolated between its stationary points and counted by Sturm's
+// theorem.
 
 namespace math::accuracy
 {
@@ -77,6 +78,12 @@ inline RealPoint Turned(const RealPoint& a, const RealPoint& by)
 
 /// The greatest coordinate of all points, as a double; it only serves as a scale.
 double LargestCoordinate(const std::vector<DPOINT2>& points);
+
+/// How far the direction of a beeline turns by rounding, in units: it is that of (x + 1, y + tan angle) - (x, y).
+double LossOfBeeline(const DPOINT2& origin, double angle);
+
+/// The outputs that an intersection has told, of `most` that it has.
+std::vector<DPOINT2> FirstOf(int count, const DPOINT2* told, int most);
 
 // ---- Polynomials ----
 
