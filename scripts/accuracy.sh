@@ -19,7 +19,7 @@ build=build/accuracy
     cmake --build "$build" --target qormath_accuracy
 } >&2
 
-table() { "$build/tests/accuracy/qormath_accuracy" --load 20 --markdown tests/accuracy/bounds.txt; }
+table() { "$build/tests/accuracy/qormath_accuracy" --load 10 --markdown tests/accuracy/bounds.txt; }
 
 if [ "${1:-}" != --write ]; then
     table

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cmath>
-#include <cstdint>
 #include <random>
 #include <string>
 
@@ -12,7 +11,7 @@ namespace math::accuracy
 class Draw
 {
 public:
-    explicit Draw(const std::string& name) : engine(Hash(name))
+    explicit Draw(const std::string& name) : engine(Seeded(name))
     {
     }
 
@@ -59,15 +58,11 @@ public:
     }
 
 private:
-    // FNV-1a: one stream a row, so that rows do not depend on what is measured before them.
-    static std::uint64_t Hash(const std::string& name)
+    // One stream a row, so that rows do not depend on what is measured before them.
+    static std::mt19937_64 Seeded(const std::string& name)
     {
-        std::uint64_t hash = 14695981039346656037U;
-        for (const char letter : name)
-        {
-            hash = (hash ^ static_cast<unsigned char>(letter)) * 1099511628211U;
-        }
-        return hash;
+        std::seed_seq seed(name.begin(), name.end());
+        return std::mt19937_64(seed);
     }
 
     std::mt19937_64 engine;

@@ -229,10 +229,10 @@ std::vector<DPOINT2> FirstOf(int count, const DPOINT2* told, int most)
 
 Real Evaluate(const Polynomial& polynomial, const Real& x)
 {
-    Real value = polynomial.back();
-    for (std::size_t i = polynomial.size() - 1; i-- > 0;)
+    Real value = 0.0;
+    for (auto coefficient = polynomial.rbegin(); coefficient != polynomial.rend(); ++coefficient)
     {
-        value = value * x + polynomial[i];
+        value = value * x + *coefficient;
     }
     return value;
 }
