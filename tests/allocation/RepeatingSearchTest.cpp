@@ -79,9 +79,9 @@ Successors TailAndLoop(std::size_t tail, std::size_t length)
 
 TEST(RepeatingSearch, IsLeftAtTheFirstStateThatComesAgain)
 {
-    for (const std::size_t length : {1, 2, 3, 127, 128, 129, 130, 200, 1000, 4095, 4096, 4097, 6000})
+    for (const std::size_t length : {1U, 2U, 3U, 127U, 128U, 129U, 130U, 200U, 1000U, 4095U, 4096U, 4097U, 6000U})
     {
-        for (const std::size_t tail : {0, 1, 2, 64, 127, 128, 129, 199, 999, 4000, 4095, 4096, 5999})
+        for (const std::size_t tail : {0U, 1U, 2U, 64U, 127U, 128U, 129U, 199U, 999U, 4000U, 4095U, 4096U, 5999U})
         {
             if (tail < length)
             {
@@ -94,7 +94,7 @@ TEST(RepeatingSearch, IsLeftAtTheFirstStateThatComesAgain)
 
 TEST(RepeatingSearch, ThatEndsByItselfIsLeftThereAndOneWithoutEndAfter4096Steps)
 {
-    for (const std::size_t length : {2, 3, 128, 129, 130, 1000, 4095, 4096, 4097, 4098, 9000, 20000})
+    for (const std::size_t length : {2U, 3U, 128U, 129U, 130U, 1000U, 4095U, 4096U, 4097U, 4098U, 9000U, 20000U})
     {
         SCOPED_TRACE(testing::Message() << length << " places");
         std::vector<double> next;
