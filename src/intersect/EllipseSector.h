@@ -5,6 +5,8 @@
 #include "primitives/Fold.h"
 #include "primitives/Tolerance.h"
 
+#include <cmath>
+
 namespace math::detail
 {
 
@@ -18,5 +20,65 @@ inline bool IsPointInEllipseSector(const DPOINT2& point, const DPOINT2& centre, 
     const double fromStart = Fold((direction - (rotation + startRadian)) * sign, TwoPi);
     return fromStart <= extent + DoubleTolerance || AreEqual(fromStart, TwoPi);
 }
+
+/// The same for many points and one counter-clockwise arc of less than half a turn.
+///
+/// A point that lies clearly on one side of each of the two rays that bound the sector is told by cross products; one
+/// within a millionth of a radian of a ray, where rounding or the tolerance might count, is measured as above.
+class EllipseSector
+{
+public:
+    EllipseSector(const DPOINT2& centre, double rotation, double startRadian, double extent)
+        : m_centre(centre),
+          m_rotation(rotation),
+          m_startRadian(startRadian),
+          m_extent(extent),
+          m_start(Ray(rotation + startRadian)),
+          m_end(Ray(rotation + startRadian + extent)),
+          // Rotations of many turns lose digits when they are folded.
+          m_isPlain(std::abs(rotation) < 32.0 && extent > 4.0 * Margin && extent < Pi - 4.0 * Margin)
+    {
+    }
+
+    bool Holds(const DPOINT2& point) const
+    {
+        const double dx = point.x - m_centre.x;
+        const double dy = point.y - m_centre.y;
+        const double reach = std::abs(dx) + std::abs(dy);
+        if (m_isPlain && reach > LeastReach && reach < GreatestReach)
+        {
+            const double margin = Margin * reach;
+            const double pastStart = m_start.x * dy - m_start.y * dx;
+            const double beforeEnd = dx * m_end.y - dy * m_end.x;
+            if (pastStart > margin && beforeEnd > margin)
+            {
+                return true;
+            }
+            if (pastStart < -margin || beforeEnd < -margin)
+            {
+                return false;
+            }
+        }
+        return IsPointInEllipseSector(point, m_centre, m_rotation, m_startRadian, m_extent, true);
+    }
+
+private:
+    static constexpr double Margin = 1e-6;
+    static constexpr double LeastReach = 1e-6;     ///< a point nearer to the centre may have no direction
+    static constexpr double GreatestReach = 1e100; ///< the direction of a point far beyond is lost in its square
+
+    static DPOINT2 Ray(double radian)
+    {
+        return {std::cos(radian), std::sin(radian)};
+    }
+
+    DPOINT2 m_centre;
+    double m_rotation;
+    double m_startRadian;
+    double m_extent;
+    DPOINT2 m_start;
+    DPOINT2 m_end;
+    bool m_isPlain;
+};
 
 } // namespace math::detail

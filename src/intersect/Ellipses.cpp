@@ -98,13 +98,14 @@ struct PointsOfPairs
 
 PointsOfPairs MeetQuarterArcs(const Ellipse& first, const Ellipse& second)
 {
-    const detail::QuarterArcs arcsOfFirst =
-        detail::SplitEllipseIntoQuarterArcs(first.centre, first.a, first.b, first.rotation);
-    const detail::QuarterArcs arcsOfSecond =
-        detail::SplitEllipseIntoQuarterArcs(second.centre, second.a, second.b, second.rotation);
+    const detail::QuarteredEllipse quarteredFirst(first.centre, first.a, first.b, first.rotation);
+    const detail::QuarteredEllipse quarteredSecond(second.centre, second.a, second.b, second.rotation);
+    const std::array arcsOfSecond = {quarteredSecond.Arc(0), quarteredSecond.Arc(1), quarteredSecond.Arc(2),
+                                     quarteredSecond.Arc(3)};
     PointsOfPairs shared;
-    for (const detail::EllipseQuarterArc& arcOfFirst : arcsOfFirst)
+    for (std::size_t i = 0; i < arcsOfSecond.size(); ++i)
     {
+        const detail::EllipseQuarterArc arcOfFirst = quarteredFirst.Arc(i);
         for (const detail::EllipseQuarterArc& arcOfSecond : arcsOfSecond)
         {
             const detail::TwoPoints found = detail::IntersectQuarterArcs(arcOfFirst, arcOfSecond);

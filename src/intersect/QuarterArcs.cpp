@@ -4,6 +4,7 @@
 #include "intersect/Iteration.h"
 #include "math/Intersect.h"
 #include "primitives/Constants.h"
+#include "primitives/EllipseTangents.h"
 #include "primitives/Fold.h"
 #include "primitives/Tolerance.h"
 
@@ -29,61 +30,21 @@ void SortAscending(std::array<double, 4>& values)
     }
 }
 
-/// The two ends of the range of x over which an arc is looked at.
-struct ArcSpan
+ArcSpan EndsByX(const DPOINT2& start, const DPOINT2& end)
 {
-    DPOINT2 left;
-    DPOINT2 right;
-};
-
-ArcSpan EndsByX(const EllipseQuarterArc& arc)
-{
-    ArcSpan span;
-    span.left = GetPointInEllipse(arc.centre, arc.a, arc.b, arc.rotation, arc.startRadian);
-    span.right = GetPointInEllipse(arc.centre, arc.a, arc.b, arc.rotation, Fold(arc.startRadian + arc.sweep, TwoPi));
-    if (span.left.x > span.right.x)
-    {
-        std::swap(span.left, span.right);
-    }
-    return span;
-}
-
-/// Where the vertical through x meets an arc. A vertical that misses leaves the point as it was.
-int MeetVertical(const EllipseQuarterArc& arc, double x, DPOINT2& point)
-{
-    return Intersect_BeelineWithEllipseArc(DPOINT2(x, 0.0), HalfPi, arc.centre, arc.a, arc.b, arc.rotation,
-                                           arc.startRadian, arc.sweep, &point, nullptr);
-}
-
-/// The same by way of the whole ellipse: of two points on the arc the first counts.
-void MeetVerticalOfEllipse(const EllipseQuarterArc& arc, double x, DPOINT2& point)
-{
-    TwoPoints found;
-    found.count = Intersect_BeelineWithEllipse(DPOINT2(x, 0.0), HalfPi, arc.centre, arc.a, arc.b, arc.rotation,
-                                               &found.first, &found.second);
-    const auto isOnArc = [&](const DPOINT2& candidate) {
-        return IsPointInEllipseSector(candidate, arc.centre, arc.rotation, arc.startRadian, arc.sweep, true);
-    };
-    if (found.count > 0 && isOnArc(found.first))
-    {
-        point = found.first;
-    }
-    else if (found.count > 1 && isOnArc(found.second))
-    {
-        point = found.second;
-    }
+    return start.x > end.x ? ArcSpan{end, start} : ArcSpan{start, end};
 }
 
 /// Brings an end of both spans to one x: that of A's end if B can be met there, else that of B's.
 void ShareEnd(const EllipseQuarterArc& arcA, const EllipseQuarterArc& arcB, DPOINT2& endOfA, DPOINT2& endOfB,
               DPOINT2& hit)
 {
-    if (MeetVertical(arcB, endOfA.x, hit) == 1)
+    if (arcB.MeetVertical(endOfA.x, hit) == 1)
     {
         endOfB = hit;
         return;
     }
-    MeetVertical(arcA, endOfB.x, hit);
+    arcA.MeetVertical(endOfB.x, hit);
     endOfA = hit;
 }
 
@@ -96,8 +57,7 @@ bool IsStrictlyAbove(const ArcSpan& upper, const ArcSpan& lower)
 /// The direction of an arc at a point as an angle about the horizontal; a vertical one has the sign of the arc's rise.
 double SlopeAngle(const EllipseQuarterArc& arc, const ArcSpan& span, const DPOINT2& point)
 {
-    const double tangent =
-        GetTangentAngleOfEllipse(arc.centre, arc.a, arc.b, RegularizeIncludedRadian(arc.rotation), point);
+    const double tangent = arc.TangentAngleAt(point);
     if (AreEqual(tangent, HalfPi))
     {
         return span.right.y - span.left.y > 0.0 ? tangent : tangent * -1.0;
@@ -137,8 +97,8 @@ SlopeSearch FindEqualSlopes(const ArcPair& pair, double slopeDifferenceAtLeft)
     }
     RunUntilItRepeats(search, [&](SlopeSearch& state) {
         const double middle = (state.high + state.low) * 0.5;
-        MeetVertical(pair.arcA, middle, state.onA);
-        MeetVertical(pair.arcB, middle, state.onB);
+        pair.arcA.MeetVertical(middle, state.onA);
+        pair.arcB.MeetVertical(middle, state.onB);
         const double difference = pair.SlopeDifference(state.onA, state.onB);
         if (IsZero(difference))
         {
@@ -170,15 +130,15 @@ struct CrossingSearch
 DPOINT2 BisectArcCrossing(const EllipseQuarterArc& arcA, const EllipseQuarterArc& arcB, double lowX, double highX)
 {
     CrossingSearch search{};
-    MeetVertical(arcA, lowX, search.lowOnA);
-    MeetVertical(arcB, lowX, search.lowOnB);
-    MeetVertical(arcA, highX, search.highOnA);
+    arcA.MeetVertical(lowX, search.lowOnA);
+    arcB.MeetVertical(lowX, search.lowOnB);
+    arcA.MeetVertical(highX, search.highOnA);
     if (search.IsWide())
     {
         RunUntilItRepeats(search, [&](CrossingSearch& state) {
             const double middle = (state.highOnA.x + state.lowOnA.x) * 0.5;
-            MeetVerticalOfEllipse(arcA, middle, state.onA);
-            MeetVerticalOfEllipse(arcB, middle, state.onB);
+            arcA.MeetVerticalOfEllipse(middle, state.onA);
+            arcB.MeetVerticalOfEllipse(middle, state.onB);
             const double difference = state.onA.y - state.onB.y;
             if (IsZero(difference))
             {
@@ -241,33 +201,77 @@ TwoPoints MeetAroundTurn(const ArcPair& pair, double heightDifferenceAtLeft)
 
 } // namespace
 
-QuarterArcs SplitEllipseIntoQuarterArcs(const DPOINT2& centre, double a, double b, double rotation)
+QuarteredEllipse::QuarteredEllipse(const DPOINT2& centre, double a, double b, double rotation)
+    : m_centre(centre),
+      m_a(a),
+      m_b(b),
+      m_rotation(rotation),
+      m_foldedRotation(Fold(rotation, Pi)),
+      m_foldedFrame(centre, m_foldedRotation),
+      m_verticals(HalfPi, centre, a, b, rotation),
+      m_angles{},
+      m_sweeps{}
 {
-    const double foldedRotation = Fold(rotation, Pi);
     std::array<DPOINT2, 4> extremes;
-    GetTangentPointOfEllipse(centre, a, b, foldedRotation, 0.0, &extremes[0], &extremes[2]);
-    GetTangentPointOfEllipse(centre, a, b, foldedRotation, HalfPi, &extremes[1], &extremes[3]);
-
-    std::array<double, 4> angles{};
-    for (std::size_t i = 0; i < angles.size(); ++i)
+    GetTangentPointOfEllipse(centre, a, b, m_foldedRotation, 0.0, &extremes[0], &extremes[2]);
+    GetTangentPointOfEllipse(centre, a, b, m_foldedRotation, HalfPi, &extremes[1], &extremes[3]);
+    for (std::size_t i = 0; i < m_angles.size(); ++i)
     {
         const double direction = D2GetNormalAngle(extremes[i].x - centre.x, extremes[i].y - centre.y);
-        angles[i] = Fold(direction - rotation, TwoPi);
+        m_angles[i] = Fold(direction - rotation, TwoPi);
     }
-    SortAscending(angles);
-
-    QuarterArcs arcs{};
-    for (std::size_t i = 0; i < arcs.size(); ++i)
+    SortAscending(m_angles);
+    for (std::size_t i = 0; i < m_sweeps.size(); ++i)
     {
-        const double next = angles[(i + 1) % angles.size()];
-        arcs[i] = {centre, a, b, rotation, angles[i], Fold(next - angles[i], TwoPi)};
+        const double next = m_angles[(i + 1) % m_angles.size()];
+        m_sweeps[i] = Fold(next - m_angles[i], TwoPi);
     }
-    return arcs;
+}
+
+EllipseQuarterArc::EllipseQuarterArc(const QuarteredEllipse& ellipse, double startRadian, double sweep)
+    : m_ellipse(&ellipse),
+      m_sector(ellipse.m_centre, ellipse.m_rotation, startRadian, sweep),
+      m_startRadian(startRadian),
+      m_sweep(sweep),
+      m_span(EndsByX(GetPointInEllipse(ellipse.m_centre, ellipse.m_a, ellipse.m_b, ellipse.m_rotation, startRadian),
+                     GetPointInEllipse(ellipse.m_centre, ellipse.m_a, ellipse.m_b, ellipse.m_rotation,
+                                       Fold(startRadian + sweep, TwoPi))))
+{
+}
+
+int EllipseQuarterArc::MeetVertical(double x, DPOINT2& point) const
+{
+    const auto isOnArc = [&](const DPOINT2& candidate) {
+        // An arc of no extent, as flat ellipses have, is one that runs clockwise here.
+        return m_sweep > 0.0 ? m_sector.Holds(candidate)
+                             : IsPointInEllipseSector(candidate, m_ellipse->m_centre, m_ellipse->m_rotation,
+                                                      m_startRadian, std::abs(m_sweep), false);
+    };
+    return KeepAndWrite(m_ellipse->m_verticals.Through({x, 0.0}), &point, nullptr, isOnArc);
+}
+
+void EllipseQuarterArc::MeetVerticalOfEllipse(double x, DPOINT2& point) const
+{
+    const TwoPoints found = m_ellipse->m_verticals.Through({x, 0.0});
+    if (found.count > 0 && m_sector.Holds(found.first))
+    {
+        point = found.first;
+    }
+    else if (found.count > 1 && m_sector.Holds(found.second))
+    {
+        point = found.second;
+    }
+}
+
+double EllipseQuarterArc::TangentAngleAt(const DPOINT2& point) const
+{
+    return detail::TangentAngle(m_ellipse->m_foldedFrame, m_ellipse->m_a, m_ellipse->m_b, m_ellipse->m_foldedRotation,
+                                point);
 }
 
 TwoPoints IntersectQuarterArcs(const EllipseQuarterArc& arcA, const EllipseQuarterArc& arcB)
 {
-    ArcPair pair{arcA, arcB, EndsByX(arcA), EndsByX(arcB)};
+    ArcPair pair{arcA, arcB, arcA.Span(), arcB.Span()};
     ArcSpan& spanA = pair.spanA;
     ArcSpan& spanB = pair.spanB;
     if (spanA.left.x > spanB.right.x || spanB.left.x > spanA.right.x)

@@ -128,12 +128,12 @@ double D2DotMultiply(const gp_Vec2d& a, const gp_Vec2d& b)
 
 DPOINT2 CoorTransXYToUV(const DPOINT2& point, const DPOINT2& origin, double radian)
 {
-    return detail::IntoOwnFrame(point, origin, radian);
+    return detail::OwnFrame(origin, radian).Into(point);
 }
 
 DPOINT2 CoorTransUVToXY(const DPOINT2& point, const DPOINT2& origin, double radian)
 {
-    return detail::OutOfOwnFrame(point, origin, radian);
+    return detail::OwnFrame(origin, radian).OutOf(point);
 }
 
 } // namespace math

@@ -1,5 +1,6 @@
 #include "math/Primitives.h"
 #include "primitives/Constants.h"
+#include "primitives/EllipseTangents.h"
 #include "primitives/Fold.h"
 #include "primitives/OwnFrame.h"
 #include "primitives/Tolerance.h"
@@ -43,14 +44,18 @@ double HeightOverUprightChord(double a, const DPOINT2& start, double sweep)
     return sweep <= detail::Pi ? a - std::abs(start.x) : a + std::abs(start.x);
 }
 
-// In the ellipse's own frame, for a direction folded into [0, π).
+} // namespace
+
+namespace detail
+{
+
 std::pair<DPOINT2, DPOINT2> OwnTangentPoints(double a, double b, double direction)
 {
-    if (detail::IsZero(direction) || detail::AreEqual(direction, detail::Pi))
+    if (IsZero(direction) || AreEqual(direction, Pi))
     {
         return {{0.0, -b}, {0.0, b}};
     }
-    if (detail::AreEqual(direction, detail::HalfPi))
+    if (AreEqual(direction, HalfPi))
     {
         return {{-a, 0.0}, {a, 0.0}};
     }
@@ -59,19 +64,30 @@ std::pair<DPOINT2, DPOINT2> OwnTangentPoints(double a, double b, double directio
     const double divisor = scaled + b * b;
     const double x = std::sqrt(scaled * a * a / divisor);
     const double y = std::sqrt((b * b) * (b * b) / divisor);
-    if (0.0 < direction && direction < detail::HalfPi)
+    if (0.0 < direction && direction < HalfPi)
     {
         return {{-x, y}, {x, -y}};
     }
     return {{x, y}, {-x, -y}};
 }
 
-} // namespace
+double TangentAngle(const OwnFrame& frame, double a, double b, double rotation, const DPOINT2& point)
+{
+    const DPOINT2 own = frame.Into(point);
+    if (!IsZero(own.y * own.y / (b * b) + own.x * own.x / (a * a) - 1.0))
+    {
+        return InvalidDouble;
+    }
+    const double angle = IsZero(own.y) ? HalfPi : std::atan((own.x * b * b * (-1.0)) / (own.y * a * a));
+    return RegularizeIncludedRadian(angle + rotation);
+}
+
+} // namespace detail
 
 DPOINT2 GetPointInEllipse(const DPOINT2& centre, double a, double b, double rotation, double radian)
 {
     const double parameter = detail::EccentricParameter(radian, a, b, detail::HalfTurn::RightUpToTheVertices);
-    return detail::OutOfOwnFrame(detail::PointAtEccentricParameter(parameter, a, b), centre, rotation);
+    return detail::OwnFrame(centre, rotation).OutOf(detail::PointAtEccentricParameter(parameter, a, b));
 }
 
 double GetHeightOfEllipseArc(double a, double b, double startRadian, double sweep)
@@ -91,13 +107,7 @@ double GetHeightOfEllipseArc(double a, double b, double startRadian, double swee
 
 double GetTangentAngleOfEllipse(const DPOINT2& centre, double a, double b, double rotation, const DPOINT2& point)
 {
-    const DPOINT2 own = detail::IntoOwnFrame(point, centre, rotation);
-    if (!detail::IsZero(own.y * own.y / (b * b) + own.x * own.x / (a * a) - 1.0))
-    {
-        return InvalidDouble;
-    }
-    const double angle = detail::IsZero(own.y) ? detail::HalfPi : std::atan((own.x * b * b * (-1.0)) / (own.y * a * a));
-    return RegularizeIncludedRadian(angle + rotation);
+    return detail::TangentAngle(detail::OwnFrame(centre, rotation), a, b, rotation, point);
 }
 
 int GetTangentPointOfEllipse(const DPOINT2& centre, double a, double b, double rotation, double radian, DPOINT2* first,
@@ -107,9 +117,10 @@ int GetTangentPointOfEllipse(const DPOINT2& centre, double a, double b, double r
     {
         return 2;
     }
-    const auto [ownFirst, ownSecond] = OwnTangentPoints(a, b, RegularizeIncludedRadian(radian - rotation));
-    const DPOINT2 worldFirst = detail::OutOfOwnFrame(ownFirst, centre, rotation);
-    const DPOINT2 worldSecond = detail::OutOfOwnFrame(ownSecond, centre, rotation);
+    const auto [ownFirst, ownSecond] = detail::OwnTangentPoints(a, b, RegularizeIncludedRadian(radian - rotation));
+    const detail::OwnFrame frame(centre, rotation);
+    const DPOINT2 worldFirst = frame.OutOf(ownFirst);
+    const DPOINT2 worldSecond = frame.OutOf(ownSecond);
     if (first != nullptr)
     {
         *first = worldFirst;

@@ -9,23 +9,36 @@
 namespace math::detail
 {
 
-/// A point of the world in the frame at `origin` that is turned by `rotation`.
-inline DPOINT2 IntoOwnFrame(const DPOINT2& point, const DPOINT2& origin, double rotation)
+/// The frame at `origin` that is turned by a rotation.
+class OwnFrame
 {
-    const double dx = point.x - origin.x;
-    const double dy = point.y - origin.y;
-    const double cosine = std::cos(rotation);
-    const double sine = std::sin(rotation);
-    return {dx * cosine + dy * sine, dy * cosine - dx * sine};
-}
+public:
+    OwnFrame(const DPOINT2& origin, double rotation)
+        : m_origin(origin),
+          m_cosine(std::cos(rotation)),
+          m_sine(std::sin(rotation))
+    {
+    }
 
-/// A point of the frame at `origin` that is turned by `rotation`, in the world.
-inline DPOINT2 OutOfOwnFrame(const DPOINT2& point, const DPOINT2& origin, double rotation)
-{
-    const double cosine = std::cos(rotation);
-    const double sine = std::sin(rotation);
-    return {point.x * cosine - point.y * sine + origin.x, point.x * sine + point.y * cosine + origin.y};
-}
+    /// A point of the world in this frame.
+    DPOINT2 Into(const DPOINT2& point) const
+    {
+        const double dx = point.x - m_origin.x;
+        const double dy = point.y - m_origin.y;
+        return {dx * m_cosine + dy * m_sine, dy * m_cosine - dx * m_sine};
+    }
+
+    /// A point of this frame in the world.
+    DPOINT2 OutOf(const DPOINT2& point) const
+    {
+        return {point.x * m_cosine - point.y * m_sine + m_origin.x, point.x * m_sine + point.y * m_cosine + m_origin.y};
+    }
+
+private:
+    DPOINT2 m_origin;
+    double m_cosine;
+    double m_sine;
+};
 
 /// Where the conversion to the eccentric parameter adds the half turn of the left half plane.
 enum class HalfTurn

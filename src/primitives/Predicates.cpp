@@ -31,7 +31,7 @@ namespace detail
 
 PlaceOnEllipse ClassifyPointToEllipse(const DPOINT2& point, const DPOINT2& centre, double a, double b, double rotation)
 {
-    const DPOINT2 own = IntoOwnFrame(point, centre, rotation);
+    const DPOINT2 own = OwnFrame(centre, rotation).Into(point);
     const double value = own.y * own.y / b / b + own.x * own.x / a / a;
     // The order of the tests leads a NaN to the inside.
     if (AreEqual(value, 1.0))
