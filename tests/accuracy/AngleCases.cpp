@@ -101,7 +101,8 @@ void MeasureConversions(Run& run)
 
 void MeasureBulges(Run& run)
 {
-    const auto measure = [](double start, double sweep, Row& row) {
+    const auto measure = [](double sweep, Draw& draw, Row& row) {
+        const double start = draw.Angle();
         const double end = start + sweep;
         const Real quarter = (Real(end) - Real(start)) * 0.25;
         if (Abs(Abs(quarter) - Pi() * 0.5) < 1e-8)
@@ -113,12 +114,12 @@ void MeasureBulges(Run& run)
         row.AddValue(GetBulge(start, end), Tan(quarter), condition, [=] { return Text("start", start, "end", end); });
     };
     run.Stratum("GetBulge", "sweeps up to 2π", OfResult, 300,
-                [&](Draw& draw, Row& row) { measure(draw.Angle(), draw.Signed(6.28), row); });
+                [&](Draw& draw, Row& row) { measure(draw.Signed(6.28), draw, row); });
     run.Stratum("GetBulge", "sweeps of 1e-6 to 1e-3", OfResult, 200,
-                [&](Draw& draw, Row& row) { measure(draw.Angle(), draw.SignedMagnitude(1e-6, 1e-3), row); });
+                [&](Draw& draw, Row& row) { measure(draw.SignedMagnitude(1e-6, 1e-3), draw, row); });
     run.Stratum("GetBulge", "sweeps 1e-6 to 1e-3 short of 2π", OfResult, 200, [&](Draw& draw, Row& row) {
         const double sweep = 6.283185307179586 - draw.Magnitude(1e-6, 1e-3);
-        measure(draw.Angle(), draw.Coin() ? sweep : -sweep, row);
+        measure(draw.Coin() ? sweep : -sweep, draw, row);
     });
 }
 
@@ -168,7 +169,8 @@ void MeasureAnglesBetween(Run& run)
     {
         const char* name = isSigned ? "D2RotateAngle" : "D2GetIncludeAngle";
         run.Stratum(name, "all directions", OfResult, 300, [=](Draw& draw, Row& row) {
-            measure(AnyVector(draw, 1e-2), AnyVector(draw, 1e-2), isSigned, row);
+            const gp_Vec2d a = AnyVector(draw, 1e-2);
+            measure(a, AnyVector(draw, 1e-2), isSigned, row);
         });
         run.Stratum(name, "1e-8 to 1e-3 from parallel", OfResult, 300, [=](Draw& draw, Row& row) {
             const gp_Vec2d a = AnyVector(draw, 1e-2);

@@ -26,7 +26,7 @@ struct EllipseInput
     double rotation;
 
     EllipseInput(Draw& draw, double size, double flatness, double offset)
-        : centre(draw.Signed(offset), draw.Signed(offset)),
+        : centre{draw.Signed(offset), draw.Signed(offset)},
           a(draw.Between(0.5, 1.0) * size),
           b(a / draw.Magnitude(1.0, flatness)),
           rotation(draw.Between(0.0, 3.14))
@@ -125,8 +125,9 @@ Real TrueHeight(const EllipseInput& ellipse, double start, double sweep)
 
 void MeasureHeights(Run& run)
 {
-    const auto measure = [](const EllipseInput& ellipse, double sweep, Draw& draw, Row& row) {
+    const auto measure = [](const EllipseInput& ellipse, double least, double greatest, Draw& draw, Row& row) {
         const double start = draw.Angle();
+        const double sweep = draw.Magnitude(least, greatest);
         const DPOINT2 first = GetPointInEllipse({}, ellipse.a, ellipse.b, 0.0, start);
         const DPOINT2 second = GetPointInEllipse({}, ellipse.a, ellipse.b, 0.0, std::fmod(start + sweep, TwoPi));
         const double dx = second.x - first.x;
@@ -140,15 +141,15 @@ void MeasureHeights(Run& run)
     };
     run.Stratum("GetHeightOfEllipseArc", "ratio to 10", OfSemiAxis, 200, [=](Draw& draw, Row& row) {
         const EllipseInput ellipse(draw, 1.0, 10.0, 0.0);
-        measure(ellipse, draw.Between(0.1, 6.2), draw, row);
+        measure(ellipse, 0.1, 6.2, draw, row);
     });
     run.Stratum("GetHeightOfEllipseArc", "ratio to 1e3", OfSemiAxis, 200, [=](Draw& draw, Row& row) {
         const EllipseInput ellipse(draw, 1.0, 1e3, 0.0);
-        measure(ellipse, draw.Between(0.1, 6.2), draw, row);
+        measure(ellipse, 0.1, 6.2, draw, row);
     });
     run.Stratum("GetHeightOfEllipseArc", "sweeps of 1e-6 to 1e-2", OfSemiAxis, 200, [=](Draw& draw, Row& row) {
         const EllipseInput ellipse(draw, 1.0, 10.0, 0.0);
-        measure(ellipse, draw.Magnitude(1e-6, 1e-2), draw, row);
+        measure(ellipse, 1e-6, 1e-2, draw, row);
     });
 }
 
@@ -223,7 +224,8 @@ void MeasureTangentsNextToTheAxes(Run& run)
     run.Stratum("GetTangentPointOfEllipse", "within 1e-9 of an axis", "1e-9 of the greatest radius of curvature", 100,
                 [](Draw& draw, Row& row) {
                     const EllipseInput ellipse(draw, 1.0, 10.0, 0.0);
-                    const double radian = ellipse.rotation + (draw.Coin() ? HalfPi : 0.0) + draw.Signed(0.9e-9);
+                    const double axis = ellipse.rotation + (draw.Coin() ? HalfPi : 0.0);
+                    const double radian = axis + draw.Signed(0.9e-9);
                     DPOINT2 told;
                     GetTangentPointOfEllipse({}, ellipse.a, ellipse.b, ellipse.rotation, radian, &told, nullptr);
                     const Conic conic({}, ellipse.a, ellipse.b, ellipse.rotation);
@@ -363,9 +365,9 @@ void MeasureSolveArc(Run& run, const ArcSetting& setting)
         Sweep
     };
     const auto measure = [&](Result result, Draw& draw, Row& row) {
-        const DPOINT2 place(draw.Signed(setting.offset), draw.Signed(setting.offset));
-        const DPOINT2 first(place.x + draw.Signed(setting.size), place.y + draw.Signed(setting.size));
-        const DPOINT2 second(place.x + draw.Signed(setting.size), place.y + draw.Signed(setting.size));
+        const DPOINT2 place{draw.Signed(setting.offset), draw.Signed(setting.offset)};
+        const DPOINT2 first{place.x + draw.Signed(setting.size), place.y + draw.Signed(setting.size)};
+        const DPOINT2 second{place.x + draw.Signed(setting.size), place.y + draw.Signed(setting.size)};
         const double bulge = draw.SignedMagnitude(setting.leastBulge, setting.greatestBulge);
         const auto text = [=] {
             return Text("x1", first.x, "y1", first.y, "x2", second.x, "y2", second.y, "bulge", bulge);
@@ -433,7 +435,7 @@ constexpr ThreePointSetting ThreePointSettings[] = {
 void MeasureCircles(Run& run, const ThreePointSetting& setting)
 {
     const auto measure = [&](bool isRadius, Draw& draw, Row& row) {
-        const DPOINT2 place(draw.Signed(setting.offset), draw.Signed(setting.offset));
+        const DPOINT2 place{draw.Signed(setting.offset), draw.Signed(setting.offset)};
         const double radius = draw.Between(0.2, 1.0) * setting.size;
         double radian = draw.Angle();
         DPOINT2 p[3];
@@ -475,7 +477,7 @@ void MeasureCirclesOfTheKernel(Run& run)
 {
     constexpr const char* all = "1e-3 to 1e6";
     const auto any = [](Draw& draw) {
-        return gp_Pnt2d(draw.SignedMagnitude(1e-3, 1e6), draw.SignedMagnitude(1e-3, 1e6));
+        return gp_Pnt2d{draw.SignedMagnitude(1e-3, 1e6), draw.SignedMagnitude(1e-3, 1e6)};
     };
     run.Stratum("gce_MakeCirc2d, radius through a point", all, OfResult, 100, [=](Draw& draw, Row& row) {
         const gp_Pnt2d centre = any(draw);

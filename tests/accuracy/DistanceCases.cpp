@@ -155,7 +155,7 @@ void MeasureVectors(Run& run)
     constexpr const char* ofProduct = "u of the product of the lengths";
     constexpr const char* all = "1e-3 to 1e6";
     const auto vector = [](Draw& draw) {
-        return gp_Vec2d(draw.SignedMagnitude(1e-3, 1e6), draw.SignedMagnitude(1e-3, 1e6));
+        return gp_Vec2d{draw.SignedMagnitude(1e-3, 1e6), draw.SignedMagnitude(1e-3, 1e6)};
     };
     const auto text = [](const gp_Vec2d& a, const gp_Vec2d& b) {
         return [=] { return Text("ax", a.X(), "ay", a.Y(), "bx", b.X(), "by", b.Y()); };

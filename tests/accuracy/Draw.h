@@ -37,7 +37,8 @@ public:
     {
         const int least = std::ilogb(low);
         const int count = std::ilogb(high) - least + 1;
-        const double value = std::ldexp(1.0 + Unit(), least + static_cast<int>(Unit() * count));
+        const double mantissa = 1.0 + Unit(); // in an order of its own: that of arguments is open
+        const double value = std::ldexp(mantissa, least + static_cast<int>(Unit() * count));
         return value < low ? low : (value > high ? high : value);
     }
 

@@ -86,8 +86,7 @@ struct LineAndEllipse
     LineAndEllipse(Draw& draw, const LineSetting& setting)
     {
         ellipse = DrawEllipse(draw, setting.size, setting.flatness);
-        ellipse.centre = {draw.Signed(setting.offset) + draw.Signed(setting.size),
-                          draw.Signed(setting.offset) + draw.Signed(setting.size)};
+        ellipse.centre = {draw.Signed(setting.offset + setting.size), draw.Signed(setting.offset + setting.size)};
         angle = draw.Between(0.0, 3.14159);
         const double own = angle - ellipse.rotation;
         const double support = std::hypot(ellipse.a * std::sin(own), ellipse.b * std::cos(own));
@@ -164,7 +163,7 @@ void CompareWith(Row& row, const LineAndEllipse& input, int count, const DPOINT2
         }
     }
     Compare(row, FirstOf(count, told, 2), truth, Real(input.Scale()) * RoundingUnit,
-            1e-5 * std::min(input.ellipse.a, input.ellipse.b), [=] { return input.Describe(); });
+            std::min(1e-3, 1e-5 * std::min(input.ellipse.a, input.ellipse.b)), [=] { return input.Describe(); });
 }
 
 void MeasureLines(Run& run, const LineSetting& setting)
@@ -341,8 +340,8 @@ struct TwoEllipses
 void CompareWith(Row& row, const TwoEllipses& input, int count, const DPOINT2* told,
                  const std::vector<CommonPoint>& truth)
 {
-    Compare(row, FirstOf(count, told, 4), truth, Tolerance, 0.02 * std::min(input.first.b, input.second.b),
-            [=] { return input.Describe(); });
+    Compare(row, FirstOf(count, told, 4), truth, Tolerance,
+            std::min(0.1, 0.02 * std::min(input.first.b, input.second.b)), [=] { return input.Describe(); });
 }
 
 void MeasurePairs(Run& run, const PairSetting& setting)

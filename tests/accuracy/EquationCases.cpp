@@ -212,7 +212,8 @@ void MeasureEquations(Run& run)
     }
     MeasureCubic(run, "one root", [](Draw& draw, double a) {
         const double p = draw.Signed(10.0);
-        return CubicCoefficients::OfOneRoot(a, draw.Signed(10.0), p, p * p * 0.25 + draw.Between(0.1, 10.0));
+        const double q = p * p * 0.25 + draw.Between(0.1, 10.0);
+        return CubicCoefficients::OfOneRoot(a, draw.Signed(10.0), p, q);
     });
     // The derivative has no root, but is small somewhere beside the root.
     MeasureCubic(run, "one root, a step on the way", [](Draw& draw, double a) {

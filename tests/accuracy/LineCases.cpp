@@ -49,8 +49,7 @@ bool IsWellPlaced(const Setting& setting)
 
 DPOINT2 Place(Draw& draw, const Setting& setting)
 {
-    return {draw.Signed(setting.offset) + draw.Signed(setting.size),
-            draw.Signed(setting.offset) + draw.Signed(setting.size)};
+    return {draw.Signed(setting.offset + setting.size), draw.Signed(setting.offset + setting.size)};
 }
 
 // ---- Two straight lines ----
@@ -85,9 +84,9 @@ struct TwoStretches
 
     TwoStretches(Draw& draw, const LineSetting& setting)
     {
-        const DPOINT2 meeting(draw.Signed(setting.offset), draw.Signed(setting.offset));
+        const DPOINT2 meeting{draw.Signed(setting.offset), draw.Signed(setting.offset)};
         firstAngle = draw.Between(0.0, 3.14);
-        secondAngle = firstAngle + (draw.Coin() ? 1.0 : -1.0) * draw.Magnitude(setting.leastTurn, setting.greatestTurn);
+        secondAngle = firstAngle + draw.SignedMagnitude(setting.leastTurn, setting.greatestTurn);
         const auto along = [&](double angle, double distance) {
             return DPOINT2(meeting.x + std::cos(angle) * distance, meeting.y + std::sin(angle) * distance);
         };
@@ -188,8 +187,8 @@ void MeasureUpright(Run& run)
 {
     run.Stratum("Intersect_BeelineWithBeeline", "within 1e-9 of upright", "1e-9 of the distance", 100,
                 [](Draw& draw, Row& row) {
-                    const DPOINT2 p(draw.Signed(1.0), draw.Signed(1.0));
-                    const DPOINT2 q(draw.Signed(1.0), draw.Signed(1.0));
+                    const DPOINT2 p{draw.Signed(1.0), draw.Signed(1.0)};
+                    const DPOINT2 q{draw.Signed(1.0), draw.Signed(1.0)};
                     const double angle = HalfPi + draw.Signed(0.99e-9);
                     DPOINT2 told;
                     const int count = Intersect_BeelineWithBeeline(p, angle, q, 0.0, &told);

@@ -50,9 +50,9 @@ struct Piece
 
     Piece(Draw& draw, const Setting& setting)
     {
-        const DPOINT2 place(draw.Signed(setting.offset), draw.Signed(setting.offset));
+        const DPOINT2 place{draw.Signed(setting.offset), draw.Signed(setting.offset)};
         const auto near = [&] {
-            return DPOINT2(place.x + draw.Signed(setting.size), place.y + draw.Signed(setting.size));
+            return DPOINT2{place.x + draw.Signed(setting.size), place.y + draw.Signed(setting.size)};
         };
         const DPOINT2 from = near();
         const DPOINT2 to = near();
@@ -275,8 +275,8 @@ void MeasureQueries(Run& run, const Setting& setting)
             isParameter ? "u of 1" : OfEnds, 150, [=](Draw& draw, Row& row) {
                 const Piece piece(draw, setting);
                 const RealPoint near = piece.At(draw.Between(-0.1, 1.1));
-                const DPOINT2 p(near.x.ToDouble() + draw.Signed(setting.size),
-                                near.y.ToDouble() + draw.Signed(setting.size));
+                const DPOINT2 p{near.x.ToDouble() + draw.Signed(setting.size),
+                                near.y.ToDouble() + draw.Signed(setting.size)};
                 double t = 0.0;
                 const RealPoint told(piece.segment.GetNearestPoint(p, t));
                 const TrueNearest truth(piece, p);
@@ -357,7 +357,7 @@ struct Bezier
 
     explicit Bezier(Draw& draw, double offset)
     {
-        const DPOINT2 place(draw.Signed(offset), draw.Signed(offset));
+        const DPOINT2 place{draw.Signed(offset), draw.Signed(offset)};
         for (DPOINT2& point : p)
         {
             point = {place.x + draw.Signed(1.0), place.y + draw.Signed(1.0)};
@@ -526,7 +526,7 @@ struct Outline
 
     Outline(Draw& draw, const OutlineSetting& setting)
     {
-        const DPOINT2 place(draw.Signed(setting.offset), draw.Signed(setting.offset));
+        const DPOINT2 place{draw.Signed(setting.offset), draw.Signed(setting.offset)};
         polyline.start = {place.x + setting.size, place.y};
         for (int i = 1; i <= setting.segments; ++i)
         {
