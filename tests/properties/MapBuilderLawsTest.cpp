@@ -289,6 +289,34 @@ TEST(MapBuilderLaws, M33_ACollapsedStretchHasOneImage)
 
 // ---- Combiners ----
 
+namespace
+{
+
+/// One list behind the other, the sources of the second two segments on, its destinations a lap on where the walk would
+/// else turn back.
+CPolyPosMap OneBehindTheOther(const CPolyPosMap& a, const CPolyPosMap& b)
+{
+    CPolyPosMap first = a;
+    CPolyPosMap second = b;
+    second.Offset(2, 1);
+    const bool up = a.PosPairs().front().second <= a.PosPairs().back().second;
+    if (up && a.Back().second > b.Back().second)
+    {
+        second.Offset(2, 2);
+    }
+    if (!up && b.Front().second > a.Front().second)
+    {
+        first.Offset(2, 2);
+    }
+    Pairs pairs = first.PosPairs();
+    pairs.insert(pairs.end(), second.PosPairs().begin(), second.PosPairs().end());
+    CPolyPosMap joined = Map(pairs, 4, 2);
+    joined.Unique(true);
+    return joined;
+}
+
+} // namespace
+
 TEST(MapBuilderLaws, M34_JoinedSourcesKeepTheImagesOfBothParts)
 {
     int made = 0;
@@ -297,6 +325,11 @@ TEST(MapBuilderLaws, M34_JoinedSourcesKeepTheImagesOfBothParts)
         for (const CPolyPosMap& b : UpwardMaps(2, 2))
         {
             const CPolyPosMap joined = Build::CombineTwonMapWithSameDst(a, b);
+            if (!CrossesTheSeam(a, 1) && !CrossesTheSeam(b, 1))
+            {
+                const CPolyPosMap byHand = OneBehindTheOther(a, b);
+                ASSERT_EQ(joined, byHand.IsInvalid() ? NoMap() : byHand) << Told(a) << " and " << Told(b);
+            }
             if (IsNoMap(joined))
             {
                 continue;
@@ -326,6 +359,13 @@ TEST(MapBuilderLaws, M35_MapsJoinedOnBothSidesKeepTheImagesOfBothParts)
         for (const CPolyPosMap& b : UpwardMaps(2, 2))
         {
             const CPolyPosMap joined = Build::CombineTwoMapStandalone(a, b);
+            const bool isClear =
+                !CrossesTheSeam(a, 1) && !CrossesTheSeam(b, 1) && !CrossesTheSeam(a, 2) && !CrossesTheSeam(b, 2);
+            if (isClear)
+            {
+                const bool meet = a.Back().first == b.Front().first + 2 || a.Back().second == b.Front().second + 2;
+                ASSERT_EQ(IsNoMap(joined), !meet || RunsUp(a, 2) != RunsUp(b, 2)) << Told(a) << " and " << Told(b);
+            }
             if (IsNoMap(joined) || joined.IsInvalid())
             {
                 continue;

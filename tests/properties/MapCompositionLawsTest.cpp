@@ -520,19 +520,36 @@ TEST(MapCompositionLaws, M21_EvaluationCommutesWithMovingTheStartOfEitherOutline
 TEST(MapCompositionLaws, M22_SplitMovesTheStart)
 {
     int exceptions = 0;
+    const CPolyPosMap renumbering = CPolyPosMapUtilies::ResetZero(1, 2);
+    const CPolyPosMap back = !renumbering;
     for (const CPolyPosMap& map : AllMapsUpTo(3, 2, 2, 1.0))
     {
-        CPolyPosMap split = map;
-        split.Split(1, 1);
-        const CPolyPosMap renumbering = CPolyPosMapUtilies::ResetZero(1, 2);
-        bool same = true;
+        CPolyPosMap onSource = map;
+        onSource.Split(1, 1);
+        CPolyPosMap onDestination = map;
+        onDestination.Split(1, 2);
+        bool sourceHolds = true;
+        bool destinationHolds = true;
         for (double place = 0.0625; place < 2; place += 0.125)
         {
-            same = same && AreSamePlaces(PlacesComposed(split, place), PlacesOf(map * (place + 1), 2));
+            sourceHolds = sourceHolds && AreSamePlaces(PlacesComposed(onSource, place), PlacesOf(map * (place + 1), 2));
+            destinationHolds = destinationHolds && AreSamePlaces(PlacesComposed(onDestination, place),
+                                                                 BegunLater(PlacesOf(map * place, 2), 1, 2));
         }
-        const bool isException = IsException(renumbering, map);
-        exceptions += isException ? 1 : 0;
-        ASSERT_EQ(same, !isException) << test::Told(map) << " gives " << test::Told(split);
+        ASSERT_EQ(sourceHolds, !IsException(renumbering, map)) << test::Told(map) << " gives " << test::Told(onSource);
+        ASSERT_EQ(destinationHolds, !IsException(map, back))
+            << test::Told(map) << " gives " << test::Told(onDestination);
+        exceptions += sourceHolds && destinationHolds ? 0 : 1;
+
+        for (int side = 1; side <= 3; ++side)
+        {
+            for (double seam : {0.0, 2.0})
+            {
+                CPolyPosMap unmoved = map;
+                unmoved.Split(seam, side);
+                ASSERT_EQ(unmoved, map);
+            }
+        }
     }
     EXPECT_GT(exceptions, 0);
 }
@@ -607,6 +624,31 @@ TEST(MapCompositionLaws, M25_TurningRoundIsComposingWithTheTurnedWholeOutline)
         turnedSource.ReverseDirection(1);
         ASSERT_TRUE(AreSameUpToLapsAndOrder(turn * map, turnedSource)) << test::Told(map);
     }
+}
+
+TEST(MapCompositionLaws, M39_OnWhichLapAnOperandIsToldMakesNoDifferenceToAComposition)
+{
+    const auto movedByLaps = [](CPolyPosMap map, int source, int destination) {
+        map.Offset(source * map.SrcSegmentCount(), 1);
+        map.Offset(destination * map.DstSegmentCount(), 2);
+        return map;
+    };
+    const std::vector<CPolyPosMap> maps = AllMapsUpTo(2, 2, 2, 1.0);
+    ForPairs(maps, maps, [&](const CPolyPosMap& a, const CPolyPosMap& b) {
+        const CPolyPosMap product = a * b;
+        for (int laps : {-1, 1, 2})
+        {
+            // What runs opposite ways need not come back to its normal form.
+            if (KeepsTheWay(a))
+            {
+                EXPECT_EQ(movedByLaps(a, laps, -laps) * b, product) << Told(a, b);
+            }
+            if (KeepsTheWay(b))
+            {
+                EXPECT_EQ(a * movedByLaps(b, -laps, laps), product) << Told(a, b);
+            }
+        }
+    });
 }
 
 // ---- Random maps ----
