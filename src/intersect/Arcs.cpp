@@ -2,6 +2,7 @@
 
 #include "intersect/PointOutputs.h"
 #include "primitives/Constants.h"
+#include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
 
 #include <cmath>
@@ -120,9 +121,9 @@ int Intersect_LineWithArc(const DPOINT2& firstEnd, const DPOINT2& secondEnd, con
     const double angle = D2GetNormalAngle(secondEnd.x - firstEnd.x, secondEnd.y - firstEnd.y);
     TwoPoints onCircle;
     onCircle.count = Intersect_BeelineWithCircle(firstEnd, angle, centre, radius, &onCircle.first, &onCircle.second);
+    const detail::StretchClip stretch(firstEnd, secondEnd);
     return KeepAndWrite(onCircle, first, second, [&](const DPOINT2& candidate) {
-        return IsPointInLine(candidate, firstEnd, secondEnd, DoubleTolerance) &&
-               IsOnArc(candidate, centre, radius, start, sweep);
+        return stretch.Holds(candidate) && IsOnArc(candidate, centre, radius, start, sweep);
     });
 }
 

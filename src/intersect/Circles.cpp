@@ -1,8 +1,9 @@
 #include "math/Intersect.h"
 
 #include "intersect/Beeline.h"
-#include "intersect/KernelRecords.h"
 #include "intersect/PointOutputs.h"
+#include "primitives/Meetings.h"
+#include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
 
 #include <cmath>
@@ -13,37 +14,15 @@ namespace math
 using detail::AppendAll;
 using detail::AppendAtMost;
 using detail::AreEqual;
-using detail::CircleAbout;
 using detail::CurvesCoincide;
 using detail::IsZero;
 using detail::KeepAndWrite;
-using detail::LineOfBeeline;
-using detail::PointOf;
 using detail::TwoPoints;
 using detail::Write;
 using detail::WriteBoth;
 
 namespace
 {
-
-TwoPoints PointsOf(const IntAna2d_AnaIntersection& meeting)
-{
-    TwoPoints found;
-    if (!meeting.IsDone())
-    {
-        return found;
-    }
-    found.count = meeting.PointCount();
-    if (found.count > 0)
-    {
-        found.first = PointOf(meeting, 1);
-    }
-    if (found.count > 1)
-    {
-        found.second = PointOf(meeting, 2);
-    }
-    return found;
-}
 
 /// Has a tolerance that the full form lacks.
 int CountBeelineWithCircleQuickly(const DPOINT2& point, double angle, const DPOINT2& centre, double radius)
@@ -54,6 +33,25 @@ int CountBeelineWithCircleQuickly(const DPOINT2& point, double angle, const DPOI
         return 1;
     }
     return distance > radius ? 0 : 2;
+}
+
+/// Tells whether the analytic kernel finds the parameters of a crossing; without them it has no result. Beside a much
+/// larger circle rounding can make half the chord so much longer than the second radius that no angle answers to it.
+bool HasParameters(const detail::CircleMeeting& meeting, double secondRadius)
+{
+    if (!(meeting.halfChord > secondRadius))
+    {
+        return true;
+    }
+    try
+    {
+        detail::AngleBesideLeg(meeting.toChord - meeting.distance, meeting.halfChord, secondRadius);
+        return true;
+    }
+    catch (...)
+    {
+        return false;
+    }
 }
 
 /// Compares the distance with each radius by itself, not with their difference.
@@ -80,23 +78,18 @@ int CountCirclesQuickly(double distance, double firstRadius, double secondRadius
 int Intersect_BeelineWithCircle(const DPOINT2& point, double angle, const DPOINT2& centre, double radius,
                                 DPOINT2* first, DPOINT2* second)
 {
-    try
-    {
-        TwoPoints found = PointsOf(IntAna2d_AnaIntersection(LineOfBeeline(point, angle), CircleAbout(centre, radius)));
-        if (found.count == 1)
-        {
-            found.second = found.first;
-        }
-        if (found.count > 0)
-        {
-            WriteBoth(found, first, second);
-        }
-        return found.count;
-    }
-    catch (...)
+    detail::StraightLine line{};
+    // A radius of NaN is not negative.
+    if (radius < 0.0 || !detail::MakeLineOfBeeline(point, angle, line))
     {
         return 0;
     }
+    const detail::LineCircleMeeting meeting = detail::MeetLineWithCircle(detail::EquationOf(line), centre, radius);
+    if (meeting.count > 0)
+    {
+        WriteBoth({meeting.count, meeting.points[0], meeting.points[meeting.count == 1 ? 0 : 1]}, first, second);
+    }
+    return meeting.count;
 }
 
 int Intersect_BeelineWithCircle(const DPOINT2& point, double angle, const DPOINT2& centre, double radius,
@@ -117,9 +110,8 @@ int Intersect_LineWithCircle(const DPOINT2& firstEnd, const DPOINT2& secondEnd, 
     const double angle = D2GetNormalAngle(secondEnd.x - firstEnd.x, secondEnd.y - firstEnd.y);
     TwoPoints onCircle;
     onCircle.count = Intersect_BeelineWithCircle(firstEnd, angle, centre, radius, &onCircle.first, &onCircle.second);
-    return KeepAndWrite(onCircle, first, second, [&](const DPOINT2& candidate) {
-        return IsPointInLine(candidate, firstEnd, secondEnd, DoubleTolerance);
-    });
+    const detail::StretchClip stretch(firstEnd, secondEnd);
+    return KeepAndWrite(onCircle, first, second, [&](const DPOINT2& candidate) { return stretch.Holds(candidate); });
 }
 
 int Intersect_LineWithCircle(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre, double radius,
@@ -133,27 +125,27 @@ int Intersect_LineWithCircle(const DPOINT2& firstEnd, const DPOINT2& secondEnd, 
 int Intersect_CircleWithCircle(const DPOINT2& firstCentre, double firstRadius, const DPOINT2& secondCentre,
                                double secondRadius, DPOINT2* first, DPOINT2* second)
 {
-    try
-    {
-        const IntAna2d_AnaIntersection meeting(CircleAbout(firstCentre, firstRadius),
-                                               CircleAbout(secondCentre, secondRadius));
-        const TwoPoints found = PointsOf(meeting);
-        if (found.count == 0)
-        {
-            return meeting.IsDone() && meeting.IsIdentical() ? CurvesCoincide : 0;
-        }
-        // Unlike a tangent line, circles that touch leave the second output alone.
-        Write(found.first, first);
-        if (found.count == 2)
-        {
-            Write(found.second, second);
-        }
-        return found.count;
-    }
-    catch (...)
+    if (firstRadius < 0.0 || secondRadius < 0.0)
     {
         return 0;
     }
+    const detail::CircleMeeting meeting = detail::MeetCircles(firstCentre, firstRadius, secondCentre, secondRadius);
+    const int count = meeting.PointCount();
+    if (count == 2 && !HasParameters(meeting, secondRadius))
+    {
+        return 0;
+    }
+    if (count == 0)
+    {
+        return meeting.placement == detail::CirclePlacement::Identical ? CurvesCoincide : 0;
+    }
+    // Unlike a tangent line, circles that touch leave the second output alone.
+    Write(meeting.points[0], first);
+    if (count == 2)
+    {
+        Write(meeting.points[1], second);
+    }
+    return count;
 }
 
 int Intersect_CircleWithCircle(const DPOINT2& firstCentre, double firstRadius, const DPOINT2& secondCentre,

@@ -4,6 +4,7 @@
 #include "intersect/EllipseSector.h"
 #include "intersect/PointOutputs.h"
 #include "math/Primitives.h"
+#include "primitives/Straight.h"
 
 #include <cmath>
 
@@ -62,9 +63,9 @@ int Intersect_LineWithEllipse(const DPOINT2& firstEnd, const DPOINT2& secondEnd,
 {
     const double angle = D2GetNormalAngle(secondEnd.x - firstEnd.x, secondEnd.y - firstEnd.y);
     const TwoPoints found = CutEllipse(firstEnd, angle, centre, a, b, rotation);
-    return detail::KeepAndWrite(found, first, second, [&](const DPOINT2& candidate) {
-        return IsPointInLine(candidate, firstEnd, secondEnd, DoubleTolerance);
-    });
+    const detail::StretchClip stretch(firstEnd, secondEnd);
+    return detail::KeepAndWrite(found, first, second,
+                                [&](const DPOINT2& candidate) { return stretch.Holds(candidate); });
 }
 
 int Intersect_LineWithEllipse(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre, double a,
@@ -82,9 +83,9 @@ int Intersect_LineWithEllipseArc(const DPOINT2& firstEnd, const DPOINT2& secondE
     TwoPoints found;
     found.count = Intersect_BeelineWithEllipseArc(firstEnd, angle, centre, a, b, rotation, start, sweep, &found.first,
                                                   &found.second);
-    return detail::KeepAndWrite(found, first, second, [&](const DPOINT2& candidate) {
-        return IsPointInLine(candidate, firstEnd, secondEnd, DoubleTolerance);
-    });
+    const detail::StretchClip stretch(firstEnd, secondEnd);
+    return detail::KeepAndWrite(found, first, second,
+                                [&](const DPOINT2& candidate) { return stretch.Holds(candidate); });
 }
 
 int Intersect_LineWithEllipseArc(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre, double a,

@@ -3,6 +3,7 @@
 #include "math/Primitives.h"
 #include "primitives/Constants.h"
 #include "primitives/Fold.h"
+#include "primitives/QuickSector.h"
 #include "primitives/Tolerance.h"
 
 #include <cmath>
@@ -15,8 +16,16 @@ namespace math::detail
 inline bool IsPointInEllipseSector(const DPOINT2& point, const DPOINT2& centre, double rotation, double startRadian,
                                    double extent, bool ccw)
 {
-    const double direction = D2GetNormalAngle(point.x - centre.x, point.y - centre.y);
+    const double dx = point.x - centre.x;
+    const double dy = point.y - centre.y;
     const double sign = ccw ? 1.0 : -1.0;
+    constexpr double margin = 1e-6;
+    const Verdict verdict = LookInSector(dx, dy, rotation + startRadian, extent, sign, margin);
+    if (verdict != Verdict::Unsure)
+    {
+        return verdict == Verdict::Inside;
+    }
+    const double direction = D2GetNormalAngle(dx, dy);
     const double fromStart = Fold((direction - (rotation + startRadian)) * sign, TwoPi);
     return fromStart <= extent + DoubleTolerance || AreEqual(fromStart, TwoPi);
 }

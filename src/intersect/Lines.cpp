@@ -1,11 +1,13 @@
 #include "math/Intersect.h"
 
 #include "intersect/Beeline.h"
-#include "intersect/KernelRecords.h"
 #include "intersect/PointOutputs.h"
+#include "primitives/Meetings.h"
+#include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace math
 {
@@ -14,28 +16,23 @@ using detail::AppendOne;
 using detail::AreEqual;
 using detail::CoincideByCoordinates;
 using detail::CurvesCoincide;
-using detail::LineOfBeeline;
-using detail::LineThrough;
+using detail::MakeLineOfBeeline;
 using detail::NoPoint;
-using detail::PointOf;
+using detail::StraightLine;
 using detail::Write;
 
 namespace
 {
 
 /// Two unbounded lines. The point is set on a result of 1 only.
-int MeetLines(const gp_Lin2d& a, const gp_Lin2d& b, DPOINT2& point)
+int MeetLines(const StraightLine& a, const StraightLine& b, DPOINT2& point)
 {
-    const IntAna2d_AnaIntersection meeting(a, b);
-    if (!meeting.IsDone())
+    const detail::LineMeeting meeting = detail::MeetLines(detail::EquationOf(a), detail::EquationOf(b));
+    if (meeting.isParallel)
     {
-        return 0;
+        return meeting.isIdentical ? CurvesCoincide : 0;
     }
-    if (meeting.PointCount() == 0)
-    {
-        return meeting.IsIdentical() ? CurvesCoincide : 0;
-    }
-    point = PointOf(meeting, 1);
+    point = meeting.point;
     return 1;
 }
 
@@ -54,11 +51,6 @@ struct Stretch
     {
         return std::max(first.*axis, second.*axis);
     }
-
-    bool Holds(const DPOINT2& point) const
-    {
-        return IsPointInLine(point, first, second, DoubleTolerance);
-    }
 };
 
 /// Two stretches of one straight line, compared along one axis.
@@ -76,15 +68,55 @@ int MeetOnOneLine(const Stretch& a, const Stretch& b, DPOINT2& point)
     return apart ? 0 : CurvesCoincide;
 }
 
+/// Tells whether a stretch lies on one side of the line through `base`, by far more than tolerance and rounding. False
+/// for NaN.
+bool LiesClearlyBeside(const Stretch& tested, const Stretch& base)
+{
+    const double alongX = base.second.x - base.first.x;
+    const double alongY = base.second.y - base.first.y;
+    const double firstX = tested.first.x - base.first.x;
+    const double firstY = tested.first.y - base.first.y;
+    const double secondX = tested.second.x - base.first.x;
+    const double secondY = tested.second.y - base.first.y;
+    const double coordinates = std::abs(firstX) + std::abs(firstY) + std::abs(secondX) + std::abs(secondY);
+    const double margin = (std::abs(alongX) + std::abs(alongY)) * (1e-8 + 1e-12 * coordinates);
+    const double firstSide = alongX * firstY - alongY * firstX;
+    const double secondSide = alongX * secondY - alongY * secondX;
+    return (firstSide > margin && secondSide > margin) || (firstSide < -margin && secondSide < -margin);
+}
+
+/// Tells whether the directions of two stretches differ by far more than those of lines that count as parallel.
+bool AreClearlyOblique(const Stretch& a, const Stretch& b)
+{
+    const double ax = a.second.x - a.first.x;
+    const double ay = a.second.y - a.first.y;
+    const double bx = b.second.x - b.first.x;
+    const double by = b.second.y - b.first.y;
+    return std::abs(ax * by - ay * bx) > 1e-6 * (std::abs(ax) + std::abs(ay)) * (std::abs(bx) + std::abs(by));
+}
+
 int MeetStretches(const Stretch& a, const Stretch& b, DPOINT2& point)
 {
-    const int code = Intersect({a.first.x, a.first.y, a.second.x, a.second.y},
-                               {b.first.x, b.first.y, b.second.x, b.second.y}, &point);
+    // Most pairs miss, and need no normal form to be told so.
+    if (AreClearlyOblique(a, b) && (LiesClearlyBeside(a, b) || LiesClearlyBeside(b, a)))
+    {
+        return 0;
+    }
+    StraightLine lineOfA{};
+    StraightLine lineOfB{};
+    if (!detail::MakeLineThrough(a.first, a.second, lineOfA) || !detail::MakeLineThrough(b.first, b.second, lineOfB))
+    {
+        return 0;
+    }
+    const int code = MeetLines(lineOfA, lineOfB, point);
     if (code == CurvesCoincide)
     {
         return MeetOnOneLine(a, b, point);
     }
-    return code == 1 && a.Holds(point) && b.Holds(point) ? 1 : 0;
+    return code == 1 && detail::IsOnStretch(point, lineOfA, a.second, DoubleTolerance) &&
+                   detail::IsOnStretch(point, lineOfB, b.second, DoubleTolerance)
+               ? 1
+               : 0;
 }
 
 bool BoxesAreApart(const Stretch& a, const Stretch& b, double DPOINT2::*axis)
@@ -117,39 +149,37 @@ int CountQuickly(const Stretch& a, const Stretch& b)
 
 int Intersect(const LineD2D& a, const LineD2D& b, DPOINT2* point)
 {
-    try
-    {
-        DPOINT2 meeting;
-        const int code =
-            MeetLines(LineThrough({a.x1, a.y1}, {a.x2, a.y2}), LineThrough({b.x1, b.y1}, {b.x2, b.y2}), meeting);
-        if (code == 1)
-        {
-            Write(meeting, point);
-        }
-        return code;
-    }
-    catch (...)
+    StraightLine lineOfA{};
+    StraightLine lineOfB{};
+    if (!detail::MakeLineThrough({a.x1, a.y1}, {a.x2, a.y2}, lineOfA) ||
+        !detail::MakeLineThrough({b.x1, b.y1}, {b.x2, b.y2}, lineOfB))
     {
         return 0;
     }
+    DPOINT2 meeting;
+    const int code = MeetLines(lineOfA, lineOfB, meeting);
+    if (code == 1)
+    {
+        Write(meeting, point);
+    }
+    return code;
 }
 
 int Intersect_BeelineWithBeeline(const DPOINT2& p, double angleOfP, const DPOINT2& q, double angleOfQ, DPOINT2* point)
 {
-    try
-    {
-        DPOINT2 meeting;
-        const int code = MeetLines(LineOfBeeline(p, angleOfP), LineOfBeeline(q, angleOfQ), meeting);
-        if (code == 1)
-        {
-            Write(meeting, point);
-        }
-        return code;
-    }
-    catch (...)
+    StraightLine lineOfP{};
+    StraightLine lineOfQ{};
+    if (!MakeLineOfBeeline(p, angleOfP, lineOfP) || !MakeLineOfBeeline(q, angleOfQ, lineOfQ))
     {
         return 0;
     }
+    DPOINT2 meeting;
+    const int code = MeetLines(lineOfP, lineOfQ, meeting);
+    if (code == 1)
+    {
+        Write(meeting, point);
+    }
+    return code;
 }
 
 int Intersect_BeelineWithBeeline(const DPOINT2& p, double angleOfP, const DPOINT2& q, double angleOfQ,
@@ -162,25 +192,24 @@ int Intersect_BeelineWithBeeline(const DPOINT2& p, double angleOfP, const DPOINT
 int Intersect_BeelineWithLine(const DPOINT2& p, double angleOfP, const DPOINT2& firstEnd, const DPOINT2& secondEnd,
                               DPOINT2* point)
 {
-    try
-    {
-        DPOINT2 meeting;
-        const int code = MeetLines(LineOfBeeline(p, angleOfP), LineThrough(firstEnd, secondEnd), meeting);
-        if (code != 1)
-        {
-            return code;
-        }
-        if (!IsPointInLine(meeting, firstEnd, secondEnd, DoubleTolerance))
-        {
-            return 0;
-        }
-        Write(meeting, point);
-        return 1;
-    }
-    catch (...)
+    StraightLine beeline{};
+    StraightLine line{};
+    if (!MakeLineOfBeeline(p, angleOfP, beeline) || !detail::MakeLineThrough(firstEnd, secondEnd, line))
     {
         return 0;
     }
+    DPOINT2 meeting;
+    const int code = MeetLines(beeline, line, meeting);
+    if (code != 1)
+    {
+        return code;
+    }
+    if (!detail::IsOnStretch(meeting, line, secondEnd, DoubleTolerance))
+    {
+        return 0;
+    }
+    Write(meeting, point);
+    return 1;
 }
 
 int Intersect_BeelineWithLine(const DPOINT2& p, double angleOfP, const DPOINT2& firstEnd, const DPOINT2& secondEnd,

@@ -2,6 +2,7 @@
 #include "primitives/Beeline.h"
 #include "primitives/Constants.h"
 #include "primitives/OwnFrame.h"
+#include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
 #include "primitives/Vectors.h"
 
@@ -36,15 +37,8 @@ double D2GetDistance(const DPOINT2& a, const DPOINT2& b)
 
 double D2GetPointToLineDistance(const DPOINT2& point, const DPOINT2& a, const DPOINT2& b)
 {
-    try
-    {
-        const gp_Dir2d direction = detail::DirectionBetween(a, b);
-        return std::abs((point.x - a.x) * direction.Y() - (point.y - a.y) * direction.X());
-    }
-    catch (...)
-    {
-        return InvalidDouble;
-    }
+    detail::StraightLine line{};
+    return detail::MakeLineThrough(a, b, line) ? detail::DistanceToLine(point, line) : InvalidDouble;
 }
 
 double D2GetPointToBeelineDistance(const DPOINT2& point, const DPOINT2& origin, double radian)

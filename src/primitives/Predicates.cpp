@@ -2,10 +2,11 @@
 #include "primitives/Constants.h"
 #include "primitives/EllipseClassification.h"
 #include "primitives/OwnFrame.h"
+#include "primitives/QuickSector.h"
+#include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
 #include "primitives/Vectors.h"
 
-#include <algorithm>
 #include <cmath>
 
 namespace math
@@ -19,9 +20,20 @@ double SignOf(bool ccw)
     return ccw ? 1.0 : -1.0;
 }
 
-bool IsBetween(double value, double oneEnd, double otherEnd, double tolerance)
+/// A first look at whether a point of the circle lies on an arc of it: sure away from the ends, in direction and in
+/// distance, with what the coordinates have in rounding.
+detail::Verdict LookAtArc(const DPOINT2& fromCentre, const DPOINT2& centre, double radius, double startRadian,
+                          double extent, double sign, double tolerance)
 {
-    return value >= std::min(oneEnd, otherEnd) - tolerance && value <= std::max(oneEnd, otherEnd) + tolerance;
+    const double coordinates = std::abs(centre.x) + std::abs(centre.y) + radius;
+    const double margin = 1e-6 + (1e-8 + 1e-12 * coordinates) / radius;
+    const double limit = extent + tolerance;
+    // Where the tolerance takes away from the extent, an end of the arc lies beyond the limit.
+    if (!(tolerance >= 0.0 && extent >= 0.0 && limit < detail::TwoPi))
+    {
+        return detail::Verdict::Unsure;
+    }
+    return detail::LookInSector(fromCentre.x, fromCentre.y, startRadian, limit, sign, margin);
 }
 
 } // namespace
@@ -50,24 +62,8 @@ bool IsPointInLine(const DPOINT2& point, const DPOINT2& a, const DPOINT2& b)
 
 bool IsPointInLine(const DPOINT2& point, const DPOINT2& a, const DPOINT2& b, const double& tolerance)
 {
-    try
-    {
-        const gp_Dir2d direction = detail::DirectionBetween(a, b);
-        const double offset = std::abs(direction.Y() * (point.x - a.x) - (point.y - a.y) * direction.X());
-        if (offset > tolerance)
-        {
-            return false;
-        }
-        if (std::abs(a.x - b.x) > std::abs(a.y - b.y))
-        {
-            return IsBetween(point.x, a.x, b.x, tolerance);
-        }
-        return IsBetween(point.y, a.y, b.y, tolerance);
-    }
-    catch (...)
-    {
-        return false;
-    }
+    detail::StraightLine line{};
+    return detail::MakeLineThrough(a, b, line) && detail::IsOnStretch(point, line, b, tolerance);
 }
 
 bool IsPointProjInLine(const DPOINT2& point, const DPOINT2& a, const DPOINT2& b)
@@ -97,6 +93,15 @@ bool IsPointInArc(const DPOINT2& point, const DPOINT2& centre, double radius, do
         return false;
     }
     const double sign = SignOf(ccw);
+    switch (LookAtArc({point.x - centre.x, point.y - centre.y}, centre, radius, startRadian, extent, sign, tolerance))
+    {
+    case detail::Verdict::Inside:
+        return true;
+    case detail::Verdict::Outside:
+        return false;
+    case detail::Verdict::Unsure:
+        break;
+    }
     const double endRadian = startRadian + sign * extent;
     if (detail::CoincideByDistance(point, GetPointInCircle(centre, radius, startRadian)) ||
         detail::CoincideByDistance(point, GetPointInCircle(centre, radius, endRadian)))

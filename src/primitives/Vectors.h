@@ -4,19 +4,12 @@
 
 #include "math/Primitives.h"
 
-#include <gp_Dir2d.hxx>
 #include <gp_Vec2d.hxx>
 
 namespace math::detail
 {
 
 inline gp_Vec2d VectorBetween(const DPOINT2& from, const DPOINT2& to)
-{
-    return {to.x - from.x, to.y - from.y};
-}
-
-/// @throws Standard_ConstructionError when the points are no further apart than gp::Resolution()
-inline gp_Dir2d DirectionBetween(const DPOINT2& from, const DPOINT2& to)
 {
     return {to.x - from.x, to.y - from.y};
 }
