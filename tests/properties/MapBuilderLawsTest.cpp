@@ -471,6 +471,16 @@ TEST(MapBuilderLaws, M38_AShortenedSourceCarriesWhatIsLeftAsBefore)
                     << position << " of " << Told(map) << (atFront ? " without its front " : " without its back ")
                     << Told(shortened);
             }
+            const bool isStraight = IsOneToOne(map) && Lowest(map, 1) == 0 && Highest(map, 1) == 2;
+            if (isStraight && !IsFullLap(map, 2))
+            {
+                // Where the stretch was lost, the walk jumps from its one end to the other.
+                const double cut = atFront ? 0 : 1;
+                const std::vector<double> ends = {RawImagesByHand(map, lost.start)[0],
+                                                  RawImagesByHand(map, lost.end)[0]};
+                ASSERT_TRUE(AreSamePlaces(PlacesOf(RawImagesByHand(shortened, cut), 2), PlacesOf(ends, 2)))
+                    << Told(map) << " without " << Two(lost) << " gave " << Told(shortened);
+            }
         }
     }
 }

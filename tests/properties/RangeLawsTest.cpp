@@ -216,6 +216,7 @@ TEST(RangeLaws, R1_ARangeIsInExactlyOneState)
         const int states = int{range.IsInvalid()} + int{range.IsWholeRange()} + int{forward} + int{wrapping};
         EXPECT_EQ(states, 1) << Two(range);
         EXPECT_EQ(range.IsEmpty(), range.IsInvalid());
+        EXPECT_TRUE(!range.IsInvalid() || (!range.IsContainZero() && !range.IsOn(-1) && !range.IsContain(-1)));
         EXPECT_EQ(forward, IsForward(range)) << Two(range);
         EXPECT_EQ(wrapping, IsWrapping(range)) << Two(range);
     }
@@ -337,6 +338,11 @@ TEST(RangeLaws, R8_RangesThatShareAStretchOverlapExceptInsideTheOther)
         EXPECT_EQ(a.IsOverlap(b) || b.IsOverlap(a), share) << Told(a, b);
     });
     EXPECT_GT(exceptions, 0);
+    for (const PosRangeD& range : AllRanges())
+    {
+        EXPECT_FALSE(range.IsOverlap(PosRangeD()) || PosRangeD().IsOverlap(range)) << Two(range);
+        EXPECT_FALSE(range.IsContain(PosRangeD()) || PosRangeD().IsContain(range)) << Two(range);
+    }
 }
 
 TEST(RangeLaws, R9_CuttingARangePartsItAtThePosition)
