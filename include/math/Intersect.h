@@ -501,6 +501,11 @@ QORMATH_EXPORT bool SolveQuadraticEquation(double a, double b, double c, std::ve
 /// in ascending order; a double root is given once and first. A NaN that arises on the way goes out as a root and is
 /// counted. A leading coefficient below DoubleTolerance, as given, makes the equation quadratic.
 ///
+/// The iteration may not come to rest in its 51 steps, and what it has reached then goes out as a root although it is
+/// none. That is common where the cubic has a step but no stationary point: x³ + 4.7x² + 7.4x + 380 = 0 gives -8.647,
+/// where the cubic is 20.85, for its root -8.783. It is rare with three roots far from 1. Put the roots in where it
+/// matters.
+///
 /// @param x1, x2, x3  receive the roots found, the others stay untouched; none may be null. For a quadratic equation
 ///                    `x1` and `x2` follow the rules of SolveQuadraticEquation, and `x3` stays untouched
 /// @return the number of roots: 1, 2 or 3; that of SolveQuadraticEquation for a quadratic equation

@@ -160,7 +160,7 @@ struct QORMATH_EXPORT PosRangeD
     /// The part of this range that `other` does not cover.
     ///
     /// Whole minus a range is what completes it (Complementary()); anything minus whole is empty. Validity is not
-    /// tested.
+    /// tested. Of two wrapping ranges that overlap at both ends, the second overlap is not taken away.
     std::vector<PosRangeD> operator-(const PosRangeD& other) const;
 
     /// The union: one range where the two overlap, else both.
@@ -172,7 +172,8 @@ struct QORMATH_EXPORT PosRangeD
     std::vector<PosRangeD> operator+(const PosRangeD& other) const;
 
     /// The intersection, empty for an invalid operand. Ranges that touch do not intersect. Where a forward and a
-    /// wrapping range meet, the part before the end of the wrapping one comes first.
+    /// wrapping range meet, the part before the end of the wrapping one comes first. Of two wrapping ranges that overlap
+    /// at both ends, the second overlap is not found: (2, 1.5) * (1, 0.5) lacks (1, 1.5).
     std::vector<PosRangeD> operator*(const PosRangeD& other) const;
 
     /// @}

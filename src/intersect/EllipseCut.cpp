@@ -1,6 +1,6 @@
 #include "intersect/EllipseCut.h"
 
-#include "math/Intersect.h"
+#include "intersect/QuadraticRoots.h"
 #include "primitives/Constants.h"
 #include "primitives/EllipseTangents.h"
 #include "primitives/Fold.h"
@@ -44,10 +44,7 @@ TwoPoints EllipseCut::Through(const DPOINT2& point) const
     }
     const DPOINT2 own = m_frame.Into(point);
     const double offset = m_isFlat ? own.y - own.x * m_slope : own.x - own.y * m_slope;
-    double firstRoot = InvalidDouble;
-    double secondRoot = InvalidDouble;
-    const int rootCount = SolveQuadraticEquation(m_leading, 2.0 * m_slope * offset, offset * offset - m_acrossSquare,
-                                                 &firstRoot, &secondRoot);
+    const QuadraticRoots roots = RootsOfQuadratic(m_leading, 2.0 * m_slope * offset, offset * offset - m_acrossSquare);
     const auto take = [&](double root, DPOINT2& output) {
         const DPOINT2 onLine = PointAt(root, offset);
         if (!std::isnan(onLine.x) && !std::isnan(onLine.y))
@@ -56,13 +53,13 @@ TwoPoints EllipseCut::Through(const DPOINT2& point) const
             ++found.count;
         }
     };
-    if (rootCount > 0)
+    if (roots.count > 0)
     {
-        take(firstRoot, found.first);
+        take(roots.first, found.first);
     }
-    if (rootCount > 1)
+    if (roots.count > 1)
     {
-        take(secondRoot, found.second);
+        take(roots.second, found.second);
     }
     return found;
 }

@@ -29,7 +29,7 @@ inline Verdict LookInSector(double dx, double dy, double startRadian, double lim
         return Verdict::Unsure;
     }
     double fromStart = (std::atan2(dy, dx) - startRadian) * turn;
-    fromStart -= TwoPi * std::floor(fromStart / TwoPi);
+    fromStart -= TwoPi * std::floor(fromStart * (1.0 / TwoPi));
     if (fromStart > margin && fromStart < limit - margin)
     {
         return Verdict::Inside;
