@@ -70,6 +70,13 @@ void CheckOutcome(const IntAna2d_AnaIntersection& meeting)
         const IntAna2d_IntPoint& point = meeting.Point(i);
         FUZZ_REQUIRE(SameBits(point.X(), point.Value().X()) && SameBits(point.Y(), point.Value().Y()));
         FUZZ_REQUIRE(SamePoint(IntAna2d_IntPoint(point), point));
+        IntAna2d_IntPoint copy(point.X(), point.Y(), point.ParamOnFirst());
+        FUZZ_REQUIRE(copy.SecondIsImplicit());
+        copy.SetValue(point.X(), point.Y(), point.ParamOnFirst(), point.ParamOnSecond());
+        FUZZ_REQUIRE(
+            SamePoint(copy, IntAna2d_IntPoint(point.X(), point.Y(), point.ParamOnFirst(), point.ParamOnSecond())));
+        copy.SetValue(point.Y(), point.X(), 0.0);
+        FUZZ_REQUIRE(copy.SecondIsImplicit() && SameBits(copy.ParamOnSecond(), point.ParamOnSecond()));
     }
 }
 

@@ -69,6 +69,12 @@ void CheckAngles(Decoder& decoder)
     FUZZ_REQUIRE(GetComplementaryAngle(angle) >= 0.0 && GetComplementaryAngle(angle) < 180.0);
     FUZZ_REQUIRE(GetComplementaryRadian(angle) >= 0.0 && GetComplementaryRadian(angle) < Pi);
     const double other = decoder.Angle(1e6);
+    FUZZ_REQUIRE(std::abs(AngleToRadian(RadianToAngle(angle)) - angle) <= 1e-15 * std::abs(angle) * 4.0 + 1e-300);
+    const double length = GetArcLength(angle, other);
+    const double back = GetArcAngle(length, other);
+    FUZZ_REQUIRE(std::isnan(back) || !(std::abs(other) >= 1e-9) ||
+                 std::abs(back - angle) <= 1e-12 * std::abs(angle) + 1e-300);
+    FUZZ_REQUIRE(std::isnan(back) == (std::isnan(other) || std::abs(other) < 1e-9));
     const double bulge = GetBulge(angle, other);
     FUZZ_REQUIRE(std::isnan(bulge) || std::abs(bulge) < 2e9 || std::abs(other - angle) > 2.0 * Pi);
 }

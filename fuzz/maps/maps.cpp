@@ -530,7 +530,8 @@ CPolyPosMap NextMap(Decoder& decoder)
 {
     const int sourceCount = decoder.SegmentCount(GreatestCount);
     const int destinationCount = decoder.SegmentCount(GreatestCount);
-    const auto size = static_cast<std::size_t>(decoder.Below(10));
+    const int byte = decoder.Byte();
+    const auto size = static_cast<std::size_t>(byte < 240 ? byte % 10 : 34 + byte % 10);
     const std::vector<double> source = NextColumn(decoder, size, sourceCount);
     const std::vector<double> destination = NextColumn(decoder, size, destinationCount);
     Joints joints;
