@@ -314,6 +314,19 @@ TEST(IntersectionOfCircles, OfRadiusZeroTouches)
     EXPECT_EQ(Outcome(Side(0, 0, 1)), "empty 0");
 }
 
+TEST(IntersectionOfCircles, OfNaNHasNoPointAndIsNoCoincidence)
+{
+    const gp_Circ2d plain = Circle(At(1, 2), 3);
+    for (const gp_Circ2d& circle :
+         {Circle(At(InvalidDouble, 2), 3), Circle(At(1, InvalidDouble), 3), Circle(At(5, 2), InvalidDouble)})
+    {
+        EXPECT_EQ(Outcome(IntAna2d_AnaIntersection(circle, plain)), "empty 0");
+        EXPECT_EQ(Outcome(IntAna2d_AnaIntersection(plain, circle)), "empty 0");
+    }
+    // About one centre the radii are compared, and a NaN equals none.
+    EXPECT_EQ(Outcome(IntAna2d_AnaIntersection(Circle(At(1, 2), InvalidDouble), plain)), "parallel empty 0");
+}
+
 TEST(IntersectionOfCircles, CountsParametersFromTheXAxesWhateverTheSense)
 {
     // The x axes are turned by 1 and by -0.5, which is what the parameters lack.

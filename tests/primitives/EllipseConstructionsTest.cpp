@@ -378,6 +378,13 @@ TEST(TangentPointsOfEllipse, StartWithTheUpperOneForASlantingTangent)
     EXPECT_TRUE(Near(points.second, At(-x, -y), 1e-15));
 }
 
+TEST(TangentPointsOfEllipse, AreNaNForADirectionOfNaN)
+{
+    const TangentPoints points = PlainTangentPoints(InvalidDouble);
+    EXPECT_EQ(points.first, At(InvalidDouble, InvalidDouble));
+    EXPECT_EQ(points.second, At(InvalidDouble, InvalidDouble));
+}
+
 TEST(TangentPointsOfEllipse, TurnWithTheEllipse)
 {
     // Semi-axes 10 and 5 about (1, 2), own x axis along (3, 4)/5. Along that axis: the own points (0, ∓5).

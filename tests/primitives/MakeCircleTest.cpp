@@ -233,6 +233,17 @@ TEST(MadeCircle, PassesOnThatABisectorHasNoDirection)
                        [] { gce_MakeCirc2d(Point(0, 3e-20), Point(0, 3e-20), Point(1e-20, 0)); }));
 }
 
+TEST(MadeCircle, ThroughPlacesThatOnlyTwoOfTheThreePointsTellApartIsRaised)
+{
+    // The square of 1.4e-162 is lost, that of twice as much is not: the first point is in one place with either of the
+    // others, and those two are not. The line that stands in for a bisector has no direction.
+    const double lost = 1.4e-162;
+    EXPECT_EQ(Point(0, 0).Distance(Point(lost, 0)), 0.0);
+    EXPECT_GT(Point(-lost, 0).Distance(Point(lost, 0)), 1e-162);
+    EXPECT_TRUE(Raises("Standard_ConstructionError", NoDirection,
+                       [=] { gce_MakeCirc2d(Point(0, 0), Point(lost, 0), Point(-lost, 0)); }));
+}
+
 TEST(MadeCircle, ThroughPointsVeryNearEachOtherStandsOnTheXAxis)
 {
     // Without a bisector of the first two the first line stays the x axis. The second goes through the first point, at
