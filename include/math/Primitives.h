@@ -448,8 +448,9 @@ QORMATH_EXPORT int GetTangentPointOfEllipse(const DPOINT2& centre, double a, dou
 ///
 /// @param a         semi-axis along the own x axis, changed in place
 /// @param b         semi-axis across it, changed in place
-/// @param rotation  direction of the own x axis, best in [0, π). For a negative one, which is not folded, the new `b`
-///                  comes out negative. Where it is folded, an infinite one never returns
+/// @param rotation  direction of the own x axis, best in [0, π). It is not folded for a factor above 0: elsewhere, where
+///                  its tangent is negative, the new `b` comes out negative. Where it is folded, an infinite one never
+///                  returns
 /// @param factor    1 changes nothing, a negative one mirrors as well. 0 is not rejected and has no sensible result
 /// @return true, always
 QORMATH_EXPORT bool ScaleEllipse(double* a, double* b, double* rotation, double factor);
