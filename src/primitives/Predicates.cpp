@@ -138,8 +138,8 @@ bool IsAngleInSector(double angle, double startRadian, double extent)
 bool IsAngleInSector(double angle, double startRadian, double extent, bool ccw)
 {
     const double fromStart = RegularizeRadian(SignOf(ccw) * (angle - startRadian));
-    // The second test admits an angle just before the start.
-    return fromStart <= extent + DoubleTolerance || detail::AreEqual(fromStart, detail::TwoPi);
+    // The second test admits an angle just before the start, of a sector only: an extent of NaN makes none.
+    return fromStart <= extent + DoubleTolerance || (detail::AreEqual(fromStart, detail::TwoPi) && !std::isnan(extent));
 }
 
 bool IsPointInEllipse(const DPOINT2& point, const DPOINT2& centre, double a, double b, double rotation)

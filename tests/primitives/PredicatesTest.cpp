@@ -569,6 +569,12 @@ TEST(AngleInSector, IsNeverNaN)
     {
         EXPECT_FALSE(IsAngleInSector(InvalidDouble, 0.0, 7.0, ccw));
         EXPECT_FALSE(IsAngleInSector(0.0, InvalidDouble, 7.0, ccw));
+        // At the start, and before it by less than the tolerance, where a sector of any extent holds the angle.
+        for (const double angle : {0.25, 0.25 - 1e-10, 0.25 + 1e-10})
+        {
+            EXPECT_TRUE(IsAngleInSector(angle, 0.25, 0.0, ccw)) << angle;
+            EXPECT_FALSE(IsAngleInSector(angle, 0.25, InvalidDouble, ccw)) << angle;
+        }
     }
 }
 
