@@ -71,9 +71,9 @@ run_fuzzer()
     mkdir -p "$work/corpus" "$work/artifacts"
     mapfile -t kept < <(kept_inputs "$name")
     # Angles and counts that take long are kept out of the inputs, so five seconds for one of them is a hang.
-    ASAN_OPTIONS=detect_stack_use_after_return=1 UBSAN_OPTIONS=print_stacktrace=1 \
+    ASAN_OPTIONS=detect_stack_use_after_return=1:malloc_context_size=8 UBSAN_OPTIONS=print_stacktrace=1 \
         "$build/tree/fuzz/qormath_fuzz_$name" -max_total_time="$seconds" -timeout=5 -max_len=300 -rss_limit_mb=4096 \
-        -print_final_stats=1 -artifact_prefix="$work/artifacts/" "$work/corpus" "${kept[@]}" >"$work/log" 2>&1 || status=$?
+        -entropic=0 -print_final_stats=1 -artifact_prefix="$work/artifacts/" "$work/corpus" "${kept[@]}" >"$work/log" 2>&1 || status=$?
     mapfile -t artifacts < <(find "$work/artifacts" -type f \( -name 'crash-*' -o -name 'timeout-*' -o -name 'leak-*' \
         -o -name 'oom-*' \) | sort)
     figures=$(awk '/^stat::number_of_executed_units:/ { runs = $2 } /^stat::average_exec_per_sec:/ { rate = $2 }

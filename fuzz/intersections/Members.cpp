@@ -346,6 +346,12 @@ void CheckPointsLieOnCurves(int index, const Curve& x, const Curve& y, const Ans
         // Arcs of one circle are compared by their ends alone, in rows of their own.
         return;
     }
+    const bool isEnd = SamePoint(full.points[0], *x.p) || SamePoint(full.points[0], *x.q);
+    if (index == LineWithLine && isEnd)
+    {
+        // Stretches of one straight line touch by one coordinate alone, and the end told may be the far one.
+        return;
+    }
     for (int i = 0; i < std::abs(full.result) && i < members[index].outputs; ++i)
     {
         if (!full.written[static_cast<std::size_t>(i)])
