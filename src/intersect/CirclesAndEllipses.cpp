@@ -5,6 +5,7 @@
 #include "primitives/Tolerance.h"
 
 #include <cmath>
+#include <vector>
 
 namespace math
 {
@@ -73,10 +74,11 @@ int Intersect_CircleWithEllipseArc(const DPOINT2& circleCentre, double radius, c
         return 0;
     }
     const DPOINT2 centre = ellipseCentre;
-    return ClipAndWrite(
-        circleCentre, radius, centre, a, b, rotation, {first, second, third, fourth}, [&](const DPOINT2& point) {
-            return IsPointInEllipseArc(point, centre, a, b, rotation, start, std::abs(sweep), sweep > 0);
-        });
+    const FourOutputs outputs = {first, second, third, fourth};
+    const auto isOnArc = [&](const DPOINT2& point) {
+        return IsPointInEllipseArc(point, centre, a, b, rotation, start, std::abs(sweep), sweep > 0);
+    };
+    return ClipAndWrite(circleCentre, radius, centre, a, b, rotation, outputs, isOnArc);
 }
 
 int Intersect_CircleWithEllipseArc(const DPOINT2& circleCentre, double radius, const DPOINT2& ellipseCentre, double a,
@@ -97,12 +99,13 @@ int Intersect_ArcWithEllipse(const DPOINT2& arcCentre, double radius, double sta
     {
         return 0;
     }
-    return ClipAndWrite(arcCentre, radius, ellipseCentre, a, b, rotation, {first, second, third, fourth},
-                        [&](const DPOINT2& point) {
-                            // The point's own distance: only the angle is tested here.
-                            return IsPointInArc(point, arcCentre, D2GetDistance(point, arcCentre), start,
-                                                std::abs(sweep), sweep > 0, DoubleTolerance);
-                        });
+    const FourOutputs outputs = {first, second, third, fourth};
+    const auto isOnArc = [&](const DPOINT2& point) {
+        // The point's own distance: only the angle is tested here.
+        const double ownDistance = D2GetDistance(point, arcCentre);
+        return IsPointInArc(point, arcCentre, ownDistance, start, std::abs(sweep), sweep > 0, DoubleTolerance);
+    };
+    return ClipAndWrite(arcCentre, radius, ellipseCentre, a, b, rotation, outputs, isOnArc);
 }
 
 int Intersect_ArcWithEllipse(const DPOINT2& arcCentre, double radius, double start, double sweep,
@@ -122,13 +125,13 @@ int Intersect_ArcWithEllipseArc(const DPOINT2& arcCentre, double radius, double 
     {
         return 0;
     }
-    return ClipAndWrite(arcCentre, radius, ellipseCentre, a, b, rotation, {first, second, third, fourth},
-                        [&](const DPOINT2& point) {
-                            return IsPointInArc(point, arcCentre, radius, arcStart, std::abs(arcSweep), arcSweep > 0,
-                                                DoubleTolerance) &&
-                                   IsPointInEllipseArc(point, ellipseCentre, a, b, rotation, ellipseStart,
-                                                       std::abs(ellipseSweep), ellipseSweep > 0);
-                        });
+    const FourOutputs outputs = {first, second, third, fourth};
+    const auto isOnBoth = [&](const DPOINT2& point) {
+        return IsPointInArc(point, arcCentre, radius, arcStart, std::abs(arcSweep), arcSweep > 0, DoubleTolerance) &&
+               IsPointInEllipseArc(point, ellipseCentre, a, b, rotation, ellipseStart, std::abs(ellipseSweep),
+                                   ellipseSweep > 0);
+    };
+    return ClipAndWrite(arcCentre, radius, ellipseCentre, a, b, rotation, outputs, isOnBoth);
 }
 
 int Intersect_ArcWithEllipseArc(const DPOINT2& arcCentre, double radius, double arcStart, double arcSweep,

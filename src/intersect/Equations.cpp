@@ -2,11 +2,14 @@
 
 #include "intersect/QuadraticRoots.h"
 #include "math/Primitives.h"
+#include "primitives/Outputs.h"
 #include "primitives/Tolerance.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
+#include <vector>
 
 namespace math
 {
@@ -100,10 +103,8 @@ CubicRoots RootOfMonotone(const MonicCubic& cubic)
 CubicRoots RootsAroundStationaryPoints(const MonicCubic& cubic, double discriminant)
 {
     const double root = std::sqrt(discriminant);
-    const double p = (root - cubic.TwiceB()) / 6.0;
-    const double q = (-cubic.TwiceB() - root) / 6.0;
-    const double maximum = p < q ? p : q;
-    const double minimum = p < q ? q : p;
+    const double minimum = (root - cubic.TwiceB()) / 6.0;
+    const double maximum = (-cubic.TwiceB() - root) / 6.0;
     const double valueAtMaximum = cubic.Value(maximum);
     const double valueAtMinimum = cubic.Value(minimum);
     const double rightOfBoth = std::abs(maximum) + minimum + 1.0;
@@ -136,21 +137,13 @@ CubicRoots RootsOfCubic(double a, double b, double c, double d)
     return RootsAroundStationaryPoints(cubic, discriminant);
 }
 
-void WriteRoot(double root, double* output)
-{
-    if (output != nullptr)
-    {
-        *output = root;
-    }
-}
-
 } // namespace
 
 int SolveQuadraticEquation(double a, double b, double c, double* x1, double* x2)
 {
     const QuadraticRoots roots = RootsOfQuadratic(a, b, c);
-    WriteRoot(roots.first, x1);
-    WriteRoot(roots.second, x2);
+    detail::Write(roots.first, x1);
+    detail::Write(roots.second, x2);
     return roots.count;
 }
 

@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <cstddef>
 
 namespace math
 {
@@ -153,8 +154,8 @@ CSegment CPolyline::GetSegment(std::uint64_t index) const
 double CPolyline::GetLength(double from, double to) const
 {
     const auto count = static_cast<double>(nodes.size());
-    // Not below is also what NaN is.
-    if (IsZero(from - to) || !(from < to) || from < 0.0 || to < 0.0 || from > count || to > count)
+    // Not below is also what NaN is. The ends being in order, one bound is left for each.
+    if (IsZero(from - to) || !(from < to) || from < 0.0 || to > count)
     {
         return 0.0;
     }

@@ -2,11 +2,13 @@
 
 #include "position/Columns.h"
 #include "position/PairList.h"
+#include "position/Positions.h"
 #include "primitives/Tolerance.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstddef>
+#include <utility>
+#include <vector>
 
 #if defined(_WIN32)
 template class QORMATH_EXPORT std::vector<std::pair<double, double>>;
@@ -163,8 +165,9 @@ bool CPolyPosMap::IsNormalize() const
     {
         return true;
     }
-    return StartsInside(detail::SpanOf(m_posPairs, SourceSide).start, m_srcSegmentCount) &&
-           StartsInside(detail::SpanOf(m_posPairs, DestinationSide).start, m_dstSegmentCount);
+    const PosRangeD source = detail::SpanOf(m_posPairs, SourceSide);
+    const PosRangeD destination = detail::SpanOf(m_posPairs, DestinationSide);
+    return StartsInside(source.start, m_srcSegmentCount) && StartsInside(destination.start, m_dstSegmentCount);
 }
 
 bool CPolyPosMap::IsIncrease(const int& side) const
@@ -229,8 +232,9 @@ PosRangeD CPolyPosMap::GetRange(const int& side, const bool& normalize) const
         return span;
     }
     const int segmentCount = side == SourceSide ? m_srcSegmentCount : m_dstSegmentCount;
-    return PosRangeD(PosRangeD::NormalizePos(span.start, segmentCount),
-                     PosRangeD::NormalizePos(span.end, segmentCount));
+    const double start = PosRangeD::NormalizePos(span.start, segmentCount);
+    const double end = PosRangeD::NormalizePos(span.end, segmentCount);
+    return PosRangeD(start, end);
 }
 
 } // namespace math

@@ -75,10 +75,6 @@ struct Runs
 
 ColumnOrder OrderOf(const JointList& joints, int side)
 {
-    if (joints.empty())
-    {
-        return ColumnOrder::Rising;
-    }
     Runs column(ColumnValue(joints.front(), side));
     for (const Joint& joint : joints)
     {

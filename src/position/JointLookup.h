@@ -20,11 +20,7 @@ namespace math::detail
 class JointLookup
 {
 public:
-    /// The list must have a joint and must not change while it is looked up.
-    JointLookup(const JointList& joints, int side) : JointLookup(joints, side, OrderOf(joints, side))
-    {
-    }
-
+    /// The list must not change while it is looked up, and have a joint by then.
     JointLookup(const JointList& joints, int side, ColumnOrder order)
         : m_joints(joints),
           m_side(side),

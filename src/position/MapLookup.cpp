@@ -3,9 +3,12 @@
 #include "position/Columns.h"
 #include "position/MapEvaluator.h"
 #include "position/PairList.h"
+#include "position/Positions.h"
 #include "primitives/Tolerance.h"
 
 #include <cstddef>
+#include <utility>
+#include <vector>
 
 namespace math
 {
@@ -51,7 +54,7 @@ std::vector<double> CPolyPosMap::MultyDouble(const std::vector<std::pair<double,
 std::vector<double> CPolyPosMap::operator*(const double& pos) const
 {
     detail::MapEvaluator evaluator(*this);
-    if (!evaluator.IsOrdered() && !evaluator.IsIllFormed())
+    if (IsEmpty() || (!evaluator.IsOrdered() && !evaluator.IsIllFormed()))
     {
         return MultyDouble(m_posPairs, evaluator.MoveToLap(pos));
     }

@@ -74,14 +74,11 @@ bool FindLegs(const Corner& corner, int srcSegmentCount, int dstSegmentCount, Le
     return false;
 }
 
-/// Takes the place where a closed map begins, a corner, out of it: the map then begins and ends at its second joint.
+/// Takes the place where a closed map begins, a corner, out of it: the map, of three joints at least, then begins and
+/// ends at its second joint.
 void RemoveSeamCorner(CPolyPosMap& map)
 {
     JointList& joints = map.PosPairs();
-    if (joints.size() == 2)
-    {
-        return;
-    }
     joints.erase(joints.begin());
     joints.pop_back();
     const Joint& front = joints.front();

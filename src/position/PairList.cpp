@@ -1,15 +1,13 @@
 #include "position/PairList.h"
 
-#include "math/CPolyPosMap.h"
-#include "math/PosRangeD.h"
-#include "position/SortStably.h"
+#include "position/Positions.h"
 #include "primitives/Tolerance.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <iterator>
-#include <limits>
+#include <vector>
 
 namespace math::detail
 {
@@ -94,22 +92,6 @@ void ShiftColumn(JointList& joints, int side, double delta)
     }
 }
 
-int SaturateToInt(std::int64_t value)
-{
-    return static_cast<int>(
-        std::clamp<std::int64_t>(value, std::numeric_limits<int>::min(), std::numeric_limits<int>::max()));
-}
-
-std::int64_t WholeLaps(double position, int segmentCount)
-{
-    if (position >= 0 && position < segmentCount)
-    {
-        return 0;
-    }
-    // Wide enough for the least int divided by -1.
-    return static_cast<std::int64_t>(PosRangeD::GetSegmentIndex(position)) / segmentCount;
-}
-
 int FindLeftIndex(const JointList& joints, double position, int side)
 {
     if (joints.empty())
@@ -183,7 +165,7 @@ void AppendImages(const JointList& joints, double position, int side, std::vecto
 
 Joint InsertJoint(JointList& joints, double position, int side)
 {
-    if ((side != SourceSide && side != DestinationSide) || joints.empty())
+    if (joints.empty())
     {
         return {NoPosition, NoPosition};
     }
@@ -259,11 +241,6 @@ void Tidy(JointList& joints)
     RemoveRepeated(joints);
     RemoveStraight(joints, SourceSide);
     RemoveStraight(joints, DestinationSide);
-}
-
-void SortPositions(std::vector<double>::iterator begin, std::vector<double>::iterator end, bool ascending)
-{
-    SortStably(begin, end, [ascending](double a, double b) { return LiesBefore(a, b, ascending); });
 }
 
 bool IsIdentityList(const JointList& joints, int srcSegmentCount, int dstSegmentCount)

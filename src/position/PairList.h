@@ -1,7 +1,5 @@
 #pragma once
 
-#include <cmath>
-#include <cstdint>
 #include <utility>
 #include <vector>
 
@@ -18,9 +16,6 @@ enum Side : int
     DestinationSide = 2,
     BothSides = 3
 };
-
-/// The failure value of functions that answer with positions.
-inline constexpr double NoPosition = -1.0;
 
 /// The value of a joint in the column of a side; every side but 1 means the destination column.
 inline double& ColumnValue(Joint& joint, int side)
@@ -41,12 +36,6 @@ inline int OtherSide(int side)
 /// Adds a number to the column of a side.
 void ShiftColumn(JointList& joints, int side, double delta);
 
-/// The nearest `int`.
-int SaturateToInt(std::int64_t value);
-
-/// Number of whole laps of `segmentCount` in a position at or above 0, negative below; the count must not be 0.
-std::int64_t WholeLaps(double position, int segmentCount);
-
 /// Index of the last joint at or before `position` in walking order, or -1; every joint is looked at, so that the
 /// answer holds on a list in neither order too.
 int FindLeftIndex(const JointList& joints, double position, int side);
@@ -61,8 +50,8 @@ void AppendImages(const JointList& joints, double position, int side, std::vecto
 /// The value of the other column at a position of a side between two joints.
 double InterpolateBetween(const Joint& from, const Joint& to, double position, int side);
 
-/// Gives the joint at a raw position of a side, adding it if there is none. The list is left alone and the answer is
-/// (-1.0, -1.0) for an unknown side or an empty list.
+/// Gives the joint at a raw position of a side, adding it if there is none. An empty list is left alone, with the answer
+/// (-1.0, -1.0).
 Joint InsertJoint(JointList& joints, double position, int side);
 
 /// Drops every joint near the one kept before it.
@@ -73,20 +62,6 @@ void RemoveStraight(JointList& joints, int runSide);
 
 /// RemoveRepeated, then RemoveStraight along the source and along the destination.
 void Tidy(JointList& joints);
-
-/// Tells whether a position comes before another on the way up or down. NaN comes last, so that the order is always
-/// well defined.
-inline bool LiesBefore(double a, double b, bool ascending)
-{
-    if (std::isnan(a) || std::isnan(b))
-    {
-        return std::isnan(b) && !std::isnan(a);
-    }
-    return ascending ? a < b : a > b;
-}
-
-/// Sorts positions upward or downward, NaN last.
-void SortPositions(std::vector<double>::iterator begin, std::vector<double>::iterator end, bool ascending);
 
 /// Tells whether a map with these joints changes nothing.
 bool IsIdentityList(const JointList& joints, int srcSegmentCount, int dstSegmentCount);

@@ -135,19 +135,13 @@ double ComputeAngle(double x, double y)
 
 double D2RotateAngle(const gp_Vec2d& a, const gp_Vec2d& b)
 {
-    try
-    {
-        // Each coordinate is compared, not the norm: (0.9e-9, 0.9e-9) is a zero vector.
-        if (IsZeroVector(a) || IsZeroVector(b))
-        {
-            return InvalidDouble;
-        }
-        return a.Angle(b);
-    }
-    catch (...)
+    // Each coordinate is compared, not the norm: (0.9e-9, 0.9e-9) is a zero vector. What is left is far above the norm
+    // for which the toolkit would raise an exception.
+    if (IsZeroVector(a) || IsZeroVector(b))
     {
         return InvalidDouble;
     }
+    return a.Angle(b);
 }
 
 double D2GetIncludeAngle(const gp_Vec2d& a, const gp_Vec2d& b)

@@ -99,11 +99,6 @@ gce_MakeCirc2d::gce_MakeCirc2d(const gp_Pnt2d& p1, const gp_Pnt2d& p2, const gp_
     }
     const Bisectors lines = BisectorsOf(p1, p2, p3);
     const IntAna2d_AnaIntersection meeting(lines.first, lines.second);
-    if (!meeting.IsDone())
-    {
-        status = IntersectionFailed;
-        return;
-    }
     if (meeting.PointCount() == 0 && !meeting.IsIdentical())
     {
         status = Collinear;
