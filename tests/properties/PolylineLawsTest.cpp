@@ -1,3 +1,4 @@
+#include "Motions.h"
 #include "math/CPolyline.h"
 #include "support/Outlines.h"
 #include "support/Segments.h"
@@ -130,22 +131,13 @@ bool SameNodes(const CPolyline& a, const CPolyline& b)
            std::equal(a.nodes.begin(), a.nodes.end(), b.nodes.begin(), b.nodes.end(), same);
 }
 
-/// Mirrored in the x axis, turned by quarter turns, then shifted.
-CPolyline Moved(const CPolyline& polyline, bool mirrors, int quarterTurns, const DPOINT2& shift)
+CPolyline Moved(const CPolyline& polyline, const Motion& motion)
 {
-    const auto move = [&](DPOINT2 point) {
-        point.y = mirrors ? -point.y : point.y;
-        for (int turn = 0; turn < quarterTurns; ++turn)
-        {
-            point = {-point.y, point.x};
-        }
-        return At(point.x + shift.x, point.y + shift.y);
-    };
     CPolyline moved;
-    moved.start = move(polyline.start);
+    moved.start = motion(polyline.start);
     for (const CPolyline::NODE& node : polyline.nodes)
     {
-        moved.AddNodes(move(node.point), mirrors ? -node.bulge : node.bulge);
+        moved.AddNodes(motion(node.point), motion.Sweep(node.bulge));
     }
     return moved;
 }
@@ -416,18 +408,16 @@ TEST(PolylineLaws, L12_MovingTurningAndMirroringAnOutlineMovesItsMeasures)
     for (const CPolyline& outline : GridOutlines())
     {
         const DRECT box = outline.GetRECT();
-        for (const bool mirrors : {false, true})
+        for (const Motion& motion : AllMotions())
         {
-            for (int turns = 0; turns < 4; ++turns)
-            {
-                const CPolyline moved = Moved(outline, mirrors, turns, At(-3, 2));
-                ASSERT_TRUE(moved.IsClosed());
-                ASSERT_TRUE(Near(moved.GetArea(), mirrors ? -outline.GetArea() : outline.GetArea(), 16 * Rounding));
-                ASSERT_TRUE(Near(LengthOf(moved), LengthOf(outline), 2 * Rounding));
-                const DRECT movedBox = moved.GetRECT();
-                ASSERT_TRUE(Near(movedBox.width, turns % 2 == 0 ? box.width : box.height, 2 * Rounding));
-                ASSERT_TRUE(Near(movedBox.height, turns % 2 == 0 ? box.height : box.width, 2 * Rounding));
-            }
+            const CPolyline moved = Moved(outline, motion);
+            const bool isUpright = motion.quarterTurns % 2 == 0;
+            ASSERT_TRUE(moved.IsClosed());
+            ASSERT_TRUE(Near(moved.GetArea(), motion.mirrors ? -outline.GetArea() : outline.GetArea(), 16 * Rounding));
+            ASSERT_TRUE(Near(LengthOf(moved), LengthOf(outline), 2 * Rounding));
+            const DRECT movedBox = moved.GetRECT();
+            ASSERT_TRUE(Near(movedBox.width, isUpright ? box.width : box.height, 2 * Rounding));
+            ASSERT_TRUE(Near(movedBox.height, isUpright ? box.height : box.width, 2 * Rounding));
         }
     }
 }

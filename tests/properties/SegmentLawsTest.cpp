@@ -1,3 +1,4 @@
+#include "Motions.h"
 #include "math/CSegment.h"
 #include "support/Segments.h"
 #include "support/Support.h"
@@ -94,46 +95,9 @@ CSegment Reversed(CSegment segment)
     return segment;
 }
 
-/// Quarter turns counter-clockwise about the origin after a mirroring in the x axis, and a shift after both.
-struct Motion
+CSegment Moved(const CSegment& segment, const Motion& motion)
 {
-    bool mirrors;
-    int quarterTurns;
-    DPOINT2 shift;
-
-    DPOINT2 operator()(DPOINT2 point) const
-    {
-        point.y = mirrors ? -point.y : point.y;
-        for (int turn = 0; turn < quarterTurns; ++turn)
-        {
-            point = {-point.y, point.x};
-        }
-        return {point.x + shift.x, point.y + shift.y};
-    }
-
-    CSegment operator()(const CSegment& segment) const
-    {
-        return LineOrArc((*this)(segment.start), (*this)(segment.end), mirrors ? -segment.bulge : segment.bulge);
-    }
-
-    double Direction(double radian) const
-    {
-        return (mirrors ? -radian : radian) + quarterTurns * HalfPi;
-    }
-};
-
-std::vector<Motion> AllMotions()
-{
-    std::vector<Motion> motions;
-    for (const bool mirrors : {false, true})
-    {
-        for (int turns = 0; turns < 4; ++turns)
-        {
-            motions.push_back({mirrors, turns, At(0, 0)});
-            motions.push_back({mirrors, turns, At(-3, 5)});
-        }
-    }
-    return motions;
+    return LineOrArc(motion(segment.start), motion(segment.end), motion.Sweep(segment.bulge));
 }
 
 std::vector<ControlPolygon> GridPolygons()
@@ -406,7 +370,7 @@ TEST(SegmentLaws, S11_MovingTurningAndMirroringASegmentMovesAllAnswers)
         const double rounding = 8 * RoundingOf(segment) + 64 * Unit * 8;
         for (const Motion& motion : AllMotions())
         {
-            const CSegment moved = motion(segment);
+            const CSegment moved = Moved(segment, motion);
             ASSERT_TRUE(Near(moved.GetLength(), segment.GetLength(), rounding));
             for (const double t : {0.0, 0.3, 1.0})
             {
