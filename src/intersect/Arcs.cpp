@@ -5,7 +5,9 @@
 #include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
 
+#include <array>
 #include <cmath>
+#include <vector>
 
 namespace math
 {
@@ -28,7 +30,7 @@ bool IsOnArc(const DPOINT2& point, const DPOINT2& centre, double radius, double 
     return IsPointInArc(point, centre, radius, start, std::abs(sweep), sweep > 0.0, DoubleTolerance);
 }
 
-/// The two ends of an arc, told so that it runs counter-clockwise from `from` to `to`.
+/// The two ends of an arc, named so that it runs counter-clockwise from `from` to `to`.
 struct CounterClockwiseArc
 {
     double from;
@@ -74,7 +76,7 @@ SharedDirections ShareOnOneCircle(const CounterClockwiseArc& a, const CounterClo
     }
     if (a.HasStrictlyInside(b.from))
     {
-        // Also where b ends inside a as well: what is told is the stretch up to the end of a.
+        // Also where b ends inside a as well: the result is the stretch up to the end of a.
         return {CurvesCoincide, b.from, a.to};
     }
     if (a.HasStrictlyInside(b.to))

@@ -1,12 +1,13 @@
 #include "math/Intersect.h"
 
-#include "intersect/Beeline.h"
 #include "intersect/PointOutputs.h"
+#include "primitives/Beeline.h"
 #include "primitives/Meetings.h"
 #include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
 
 #include <cmath>
+#include <vector>
 
 namespace math
 {

@@ -34,9 +34,9 @@ private:
     double m_worldSlope; ///< of beelines that are not
     DPOINT2 m_firstTangency;
     DPOINT2 m_secondTangency;
-    bool m_isFlat; ///< in the own frame: y is told by x, otherwise x by y, so that the slope is never above 1
+    bool m_isFlat; ///< in the own frame: y is given by x, otherwise x by y, so that the slope is never above 1
     double m_slope;
-    double m_acrossSquare; ///< of the semi-axis of the coordinate that is told
+    double m_acrossSquare; ///< of the semi-axis of the coordinate that is given
     double m_leading;
 };
 

@@ -7,6 +7,7 @@
 #include "primitives/Straight.h"
 
 #include <cmath>
+#include <vector>
 
 namespace math
 {

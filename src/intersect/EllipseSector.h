@@ -3,8 +3,7 @@
 #include "math/Primitives.h"
 #include "primitives/Constants.h"
 #include "primitives/Fold.h"
-#include "primitives/QuickSector.h"
-#include "primitives/Tolerance.h"
+#include "primitives/Sector.h"
 
 #include <cmath>
 
@@ -18,7 +17,7 @@ inline bool IsPointInEllipseSector(const DPOINT2& point, const DPOINT2& centre, 
 {
     const double dx = point.x - centre.x;
     const double dy = point.y - centre.y;
-    const double sign = ccw ? 1.0 : -1.0;
+    const double sign = SignOf(ccw);
     constexpr double margin = 1e-6;
     const Verdict verdict = LookInSector(dx, dy, rotation + startRadian, extent, sign, margin);
     if (verdict != Verdict::Unsure)
@@ -27,12 +26,12 @@ inline bool IsPointInEllipseSector(const DPOINT2& point, const DPOINT2& centre, 
     }
     const double direction = D2GetNormalAngle(dx, dy);
     const double fromStart = Fold((direction - (rotation + startRadian)) * sign, TwoPi);
-    return fromStart <= extent + DoubleTolerance || AreEqual(fromStart, TwoPi);
+    return IsInSector(fromStart, extent);
 }
 
 /// The same for many points and one counter-clockwise arc of less than half a turn.
 ///
-/// A point that lies clearly on one side of each of the two rays that bound the sector is told by cross products; one
+/// A point that lies clearly on one side of each of the two rays that bound the sector is judged by cross products; one
 /// within a millionth of a radian of a ray, where rounding or the tolerance might count, is measured as above.
 class EllipseSector
 {
@@ -44,8 +43,7 @@ public:
           m_extent(extent),
           m_start(Ray(rotation + startRadian)),
           m_end(Ray(rotation + startRadian + extent)),
-          // Rotations of many turns lose digits when they are folded.
-          m_isPlain(std::abs(rotation) < 32.0 && extent > 4.0 * Margin && extent < Pi - 4.0 * Margin)
+          m_isPlain(IsOfFewTurns(rotation) && extent > 4.0 * Margin && extent < Pi - 4.0 * Margin)
     {
     }
 
@@ -54,7 +52,7 @@ public:
         const double dx = point.x - m_centre.x;
         const double dy = point.y - m_centre.y;
         const double reach = std::abs(dx) + std::abs(dy);
-        if (m_isPlain && reach > LeastReach && reach < GreatestReach)
+        if (m_isPlain && HasSureDirection(reach))
         {
             const double margin = Margin * reach;
             const double pastStart = m_start.x * dy - m_start.y * dx;
@@ -73,8 +71,6 @@ public:
 
 private:
     static constexpr double Margin = 1e-6;
-    static constexpr double LeastReach = 1e-6;     ///< a point nearer to the centre may have no direction
-    static constexpr double GreatestReach = 1e100; ///< the direction of a point far beyond is lost in its square
 
     static DPOINT2 Ray(double radian)
     {

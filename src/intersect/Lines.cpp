@@ -1,13 +1,14 @@
 #include "math/Intersect.h"
 
-#include "intersect/Beeline.h"
 #include "intersect/PointOutputs.h"
+#include "primitives/Beeline.h"
 #include "primitives/Meetings.h"
 #include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
 
 #include <algorithm>
 #include <cmath>
+#include <vector>
 
 namespace math
 {
@@ -97,7 +98,7 @@ bool AreClearlyOblique(const Stretch& a, const Stretch& b)
 
 int MeetStretches(const Stretch& a, const Stretch& b, DPOINT2& point)
 {
-    // Most pairs miss, and need no normal form to be told so.
+    // Most pairs miss, and need no normal form for that.
     if (AreClearlyOblique(a, b) && (LiesClearlyBeside(a, b) || LiesClearlyBeside(b, a)))
     {
         return 0;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "math/Primitives.h"
+#include "primitives/Outputs.h"
 
 #include <algorithm>
 #include <array>
@@ -27,14 +28,6 @@ struct TwoPoints
     DPOINT2 first = NoPoint();
     DPOINT2 second = NoPoint();
 };
-
-inline void Write(const DPOINT2& point, DPOINT2* output)
-{
-    if (output != nullptr)
-    {
-        *output = point;
-    }
-}
 
 inline void WriteBoth(const TwoPoints& found, DPOINT2* first, DPOINT2* second)
 {

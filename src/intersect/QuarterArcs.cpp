@@ -8,6 +8,7 @@
 #include "primitives/Fold.h"
 #include "primitives/Tolerance.h"
 
+#include <array>
 #include <cmath>
 #include <cstddef>
 #include <utility>

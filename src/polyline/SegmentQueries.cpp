@@ -3,11 +3,13 @@
 #include "polyline/ArcForm.h"
 #include "polyline/CubicForm.h"
 #include "primitives/Constants.h"
+#include "primitives/Direction.h"
 #include "primitives/Tolerance.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstddef>
 
 namespace math
 {
@@ -16,18 +18,13 @@ using detail::ArcForm;
 using detail::AreEqual;
 using detail::CoincideByCoordinates;
 using detail::CubicForm;
+using detail::DirectionBetween;
 using detail::HalfPi;
 using detail::IsZero;
 using detail::TwoPi;
 
 namespace
 {
-
-double DirectionOfChord(const DPOINT2& start, const DPOINT2& end)
-{
-    const double direction = std::atan2(end.y - start.y, end.x - start.x) + TwoPi;
-    return direction >= TwoPi ? direction - TwoPi : direction;
-}
 
 /// The tangent of an arc. One turn at most is corrected before and after the quarter turn.
 double DirectionOfArc(const ArcForm& arc, double bulge, double t)
@@ -96,13 +93,13 @@ double CSegment::GetAngle(double t) const
     switch (type)
     {
     case SegmentLine:
-        return CoincideByCoordinates(start, end) ? InvalidDouble : DirectionOfChord(start, end);
+        return CoincideByCoordinates(start, end) ? InvalidDouble : DirectionBetween(start, end);
     case SegmentArc:
         if (CoincideByCoordinates(start, end))
         {
             return InvalidDouble;
         }
-        return IsZero(bulge) ? DirectionOfChord(start, end) : DirectionOfArc(ArcForm(start, end, bulge), bulge, t);
+        return IsZero(bulge) ? DirectionBetween(start, end) : DirectionOfArc(ArcForm(start, end, bulge), bulge, t);
     case SegmentBezier:
         return DirectionOfCubic(CubicForm(start, ctrl1, ctrl2, end), t);
     default:

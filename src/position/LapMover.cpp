@@ -1,6 +1,6 @@
 #include "position/LapMover.h"
 
-#include "position/PairList.h"
+#include "position/Positions.h"
 #include "primitives/Tolerance.h"
 
 #include <cmath>

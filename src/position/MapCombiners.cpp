@@ -1,9 +1,11 @@
 #include "math/CPolyPosMapUtilies.h"
 
 #include "position/PairList.h"
+#include "position/Positions.h"
 #include "primitives/Tolerance.h"
 
 #include <cstdint>
+#include <utility>
 
 namespace math
 {

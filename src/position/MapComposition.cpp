@@ -4,6 +4,7 @@
 #include "position/JointLookup.h"
 #include "position/LapMover.h"
 #include "position/PairList.h"
+#include "position/Positions.h"
 #include "position/SortByImages.h"
 #include "position/SortStably.h"
 #include "primitives/Tolerance.h"
@@ -11,6 +12,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <vector>
 
 namespace math
 {

@@ -1,5 +1,7 @@
 #include "position/MapEvaluator.h"
 
+#include <vector>
+
 namespace math::detail
 {
 

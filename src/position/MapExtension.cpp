@@ -3,6 +3,8 @@
 #include "position/PairList.h"
 #include "primitives/Tolerance.h"
 
+#include <vector>
+
 namespace math
 {
 

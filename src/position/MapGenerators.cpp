@@ -2,12 +2,14 @@
 
 #include "position/MapEvaluator.h"
 #include "position/PairList.h"
+#include "position/Positions.h"
 #include "primitives/Tolerance.h"
 
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
+#include <vector>
 
 namespace math
 {

@@ -2,6 +2,7 @@
 
 #include "position/Columns.h"
 #include "position/PairList.h"
+#include "position/Positions.h"
 #include "primitives/Tolerance.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "math/PosRangeD.h"
 
 #include "position/LapMover.h"
-#include "position/PairList.h"
+#include "position/Positions.h"
 #include "primitives/Tolerance.h"
 
 #include <cmath>

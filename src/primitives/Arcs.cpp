@@ -2,7 +2,8 @@
 
 #include "math/AnalyticKernel.h"
 #include "math/Primitives.h"
-#include "primitives/Constants.h"
+#include "primitives/Direction.h"
+#include "primitives/Outputs.h"
 #include "primitives/Tolerance.h"
 
 #include <cmath>
@@ -35,21 +36,6 @@ DPOINT2 CentreOfArc(const DPOINT2& first, const DPOINT2& second, double bulge, d
     return {middleX - stepX, middleY - stepY};
 }
 
-double StartOfArc(const DPOINT2& first, const DPOINT2& centre)
-{
-    const double radian = std::atan2(first.y - centre.y, first.x - centre.x) + detail::TwoPi;
-    return radian >= detail::TwoPi ? radian - detail::TwoPi : radian;
-}
-
-template <typename Value>
-void Write(Value* output, const Value& value)
-{
-    if (output != nullptr)
-    {
-        *output = value;
-    }
-}
-
 } // namespace
 
 DPOINT2 GetPointInCircle(const DPOINT2& centre, double radius, double radian)
@@ -73,10 +59,10 @@ bool SolveArc(DPOINT2 first, DPOINT2 second, double bulge, DPOINT2* centre, doub
     const double solvedRadius = std::abs((chordLength * 0.5) / std::sin(solvedSweep * 0.5));
     const double distanceFromChord = std::abs(std::cos(solvedSweep * 0.5) * solvedRadius);
     const DPOINT2 solvedCentre = CentreOfArc(first, second, bulge, distanceFromChord);
-    Write(sweep, solvedSweep);
-    Write(radius, solvedRadius);
-    Write(centre, solvedCentre);
-    Write(startRadian, StartOfArc(first, solvedCentre));
+    detail::Write(solvedSweep, sweep);
+    detail::Write(solvedRadius, radius);
+    detail::Write(solvedCentre, centre);
+    detail::Write(detail::DirectionBetween(solvedCentre, first), startRadian);
     return true;
 }
 

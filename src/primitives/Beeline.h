@@ -2,6 +2,8 @@
 
 #include "math/Primitives.h"
 #include "primitives/Constants.h"
+#include "primitives/Fold.h"
+#include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
 
 #include <cmath>
@@ -24,6 +26,15 @@ inline DPOINT2 SecondPointOfBeeline(const DPOINT2& origin, double radian)
         return {origin.x, origin.y - 1.0};
     }
     return {origin.x + 1.0, origin.y + std::tan(radian)};
+}
+
+/// The unbounded line of a beeline. It always runs to the right, a vertical one upward, since only the angle modulo π
+/// counts.
+///
+/// @return false where the beeline has no direction, so far out that its second point is the first
+inline bool MakeLineOfBeeline(const DPOINT2& point, double angle, StraightLine& line)
+{
+    return MakeLineThrough(point, SecondPointOfBeeline(point, Fold(angle, Pi)), line);
 }
 
 } // namespace math::detail

@@ -2,6 +2,7 @@
 #include "primitives/Constants.h"
 #include "primitives/EllipseTangents.h"
 #include "primitives/Fold.h"
+#include "primitives/Outputs.h"
 #include "primitives/OwnFrame.h"
 #include "primitives/Tolerance.h"
 
@@ -15,7 +16,7 @@ namespace math
 namespace
 {
 
-bool IsDescriptionOfArc(double a, double b, double startRadian, double sweep)
+bool AreInRange(double a, double b, double startRadian, double sweep)
 {
     return 0.0 < b && b <= a && 0.0 <= startRadian && startRadian < detail::TwoPi && 0.0 < sweep &&
            sweep < detail::TwoPi;
@@ -92,7 +93,7 @@ DPOINT2 GetPointInEllipse(const DPOINT2& centre, double a, double b, double rota
 
 double GetHeightOfEllipseArc(double a, double b, double startRadian, double sweep)
 {
-    if (!IsDescriptionOfArc(a, b, startRadian, sweep))
+    if (!AreInRange(a, b, startRadian, sweep))
     {
         return InvalidDouble;
     }
@@ -121,14 +122,8 @@ int GetTangentPointOfEllipse(const DPOINT2& centre, double a, double b, double r
     const detail::OwnFrame frame(centre, rotation);
     const DPOINT2 worldFirst = frame.OutOf(ownFirst);
     const DPOINT2 worldSecond = frame.OutOf(ownSecond);
-    if (first != nullptr)
-    {
-        *first = worldFirst;
-    }
-    if (second != nullptr)
-    {
-        *second = worldSecond;
-    }
+    detail::Write(worldFirst, first);
+    detail::Write(worldSecond, second);
     return 2;
 }
 

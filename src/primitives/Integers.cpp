@@ -1,5 +1,6 @@
 #include "math/Primitives.h"
 
+#include <cstdint>
 #include <limits>
 
 namespace math

@@ -2,7 +2,7 @@
 #include "primitives/Constants.h"
 #include "primitives/EllipseClassification.h"
 #include "primitives/OwnFrame.h"
-#include "primitives/QuickSector.h"
+#include "primitives/Sector.h"
 #include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
 #include "primitives/Vectors.h"
@@ -14,11 +14,6 @@ namespace math
 
 namespace
 {
-
-double SignOf(bool ccw)
-{
-    return ccw ? 1.0 : -1.0;
-}
 
 /// A first look at whether a point of the circle lies on an arc of it: sure away from the ends, in direction and in
 /// distance, with what the coordinates have in rounding.
@@ -92,7 +87,7 @@ bool IsPointInArc(const DPOINT2& point, const DPOINT2& centre, double radius, do
     {
         return false;
     }
-    const double sign = SignOf(ccw);
+    const double sign = detail::SignOf(ccw);
     switch (LookAtArc({point.x - centre.x, point.y - centre.y}, centre, radius, startRadian, extent, sign, tolerance))
     {
     case detail::Verdict::Inside:
@@ -126,7 +121,7 @@ bool IsPointInArc(const DPOINT2& point, const DPOINT2& centre, const DPOINT2& ar
     }
     const double startRadian = D2GetNormalAngle(toStart.X(), toStart.Y());
     const double endRadian = D2GetNormalAngle(toEnd.X(), toEnd.Y());
-    const double extent = RegularizeRadian((endRadian - startRadian) * SignOf(ccw));
+    const double extent = RegularizeRadian((endRadian - startRadian) * detail::SignOf(ccw));
     return IsPointInArc(point, centre, toStart.Magnitude(), startRadian, extent, ccw, DoubleTolerance);
 }
 
@@ -137,9 +132,9 @@ bool IsAngleInSector(double angle, double startRadian, double extent)
 
 bool IsAngleInSector(double angle, double startRadian, double extent, bool ccw)
 {
-    const double fromStart = RegularizeRadian(SignOf(ccw) * (angle - startRadian));
-    // The second test admits an angle just before the start, of a sector only: an extent of NaN makes none.
-    return fromStart <= extent + DoubleTolerance || (detail::AreEqual(fromStart, detail::TwoPi) && !std::isnan(extent));
+    const double fromStart = RegularizeRadian(detail::SignOf(ccw) * (angle - startRadian));
+    // An extent of NaN makes no sector, around its start either.
+    return !std::isnan(extent) && detail::IsInSector(fromStart, extent);
 }
 
 bool IsPointInEllipse(const DPOINT2& point, const DPOINT2& centre, double a, double b, double rotation)
