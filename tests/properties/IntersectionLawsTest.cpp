@@ -261,7 +261,8 @@ int ExactCode(const Stretch& a, const Stretch& b)
     return low > high ? 0 : low == high ? 1 : -1;
 }
 
-bool Meet(const Stretch& a, const Stretch& b, bool)
+/// The same for stretches of any length.
+bool HaveCommonPoint(const Stretch& a, const Stretch& b)
 {
     if (IsPoint(a))
     {
@@ -402,7 +403,7 @@ TEST(IntersectionLaws, I1_TwoStretchesMeetAsExactArithmeticTellsExceptForThoseOf
 {
     int meetingPoints = 0;
     ForAll(GridStretches(true), GridStretches(true), [&](const Stretch& a, const Stretch& b) {
-        const bool isException = (IsPoint(a) || IsPoint(b)) && Meet(a, b, true);
+        const bool isException = (IsPoint(a) || IsPoint(b)) && HaveCommonPoint(a, b);
         meetingPoints += isException ? 1 : 0;
         const int code = IsPoint(a) || IsPoint(b) ? 0 : ExactCode(a, b);
         ASSERT_EQ(Meet(a, b).code, code);
@@ -411,12 +412,36 @@ TEST(IntersectionLaws, I1_TwoStretchesMeetAsExactArithmeticTellsExceptForThoseOf
     // Nine points meet themselves; of stretches through them, 24 unit ones hold 2, 16 diagonal ones 2, 16 knight's moves
     // 2, 12 upright or level ones twice as long 3, and 4 long diagonals 3; each both ways and in either place.
     EXPECT_EQ(meetingPoints, 9 + 2 * (24 * 2 + 16 * 2 + 16 * 2 + 12 * 3 + 4 * 3));
+    // Larger whole coordinates at random, every second pair with a common end, a T or on one line.
+    Random random(17);
+    const auto place = [&] { return At(random.Integer(-30, 30), random.Integer(-30, 30)); };
+    const auto onLine = [&](const Stretch& stretch) {
+        const DPOINT2 along = Minus(stretch.second, stretch.first);
+        const int times = random.Integer(-1, 3);
+        return At(stretch.first.x + times * along.x, stretch.first.y + times * along.y);
+    };
+    int codes[3] = {0, 0, 0};
+    for (int round = 0; round < 20000; ++round)
+    {
+        const Stretch a{place(), place()};
+        const Stretch b{random.Coin() ? onLine(a) : place(), random.Coin() ? onLine(a) : place()};
+        if (IsPoint(a) || IsPoint(b))
+        {
+            continue;
+        }
+        const int code = ExactCode(a, b);
+        ++codes[code + 1];
+        ASSERT_EQ(Meet(a, b).code, code) << ::testing::PrintToString(a.first) << ::testing::PrintToString(a.second)
+                                         << ::testing::PrintToString(b.first) << ::testing::PrintToString(b.second);
+        ASSERT_EQ(Meet(b, a).code, code);
+    }
+    EXPECT_TRUE(codes[0] > 1000 && codes[1] > 1000 && codes[2] > 1000);
 }
 
 TEST(IntersectionLaws, I2_TheQuickTestOfTwoStretchesIsExactAndServesPointsToo)
 {
     ForAll(GridStretches(true), GridStretches(true), [](const Stretch& a, const Stretch& b) {
-        ASSERT_TRUE(QuickTestGives(Meeting(a, b), Meet(a, b, true) ? 1 : 0));
+        ASSERT_TRUE(QuickTestGives(Meeting(a, b), HaveCommonPoint(a, b) ? 1 : 0));
     });
 }
 

@@ -1,6 +1,11 @@
+#include "math/AnalyticKernel.h"
 #include "math/Primitives.h"
 #include "support/Segments.h"
 #include "support/Support.h"
+
+#include <gp_Circ2d.hxx>
+#include <gp_Dir2d.hxx>
+#include <gp_Lin2d.hxx>
 
 #include <algorithm>
 #include <array>
@@ -126,6 +131,11 @@ std::vector<RoundArc> GridArcs()
 
 /// The bulges of the grid: flat and nearly full, both ways, the half circle and its neighbours.
 const double Bulges[] = {1e-4, 0.1, 0.25, 0.5, 0.9, Previous(1.0), 1.0, Next(1.0), 1.25, 2.0, 4.0, 10.0, 100.0};
+
+gp_Circ2d CircleAt(const DPOINT2& centre, double radius)
+{
+    return gp_Circ2d(gp_Ax2d(gp_Pnt2d(centre.x, centre.y), gp_Dir2d(1, 0)), radius);
+}
 
 } // namespace
 
@@ -703,4 +713,58 @@ TEST(RecordLaws, A30_AReducedFractionHasTheSameValueInLeastTermsExceptWithAZero)
         }
     }
     EXPECT_EQ(withZero, 49 + 48);
+}
+
+// ---- The exact kernel ----
+
+TEST(KernelLaws, A31_TheParametersOfAPointLeadToItOnEitherCurve)
+{
+    const double rounding = 64 * Unit * 8;
+    const auto onCircle = [](const DPOINT2& centre, double radius, double parameter) {
+        return GetPointInCircle(centre, radius, parameter);
+    };
+    const auto placeOf = [](const IntAna2d_IntPoint& point) { return At(point.X(), point.Y()); };
+    int points = 0;
+    int turns = 0;
+    for (const DPOINT2& centre : Lattice(3))
+    {
+        for (const double radius : {0.5, 1.0, 2.0})
+        {
+            const gp_Circ2d circle = CircleAt(centre, radius);
+            for (const DPOINT2& along : {At(1, 0), At(0, -1), At(1, 1), At(-1, 2), At(-3, -4)})
+            {
+                const gp_Lin2d line(gp_Pnt2d(1, 2), gp_Dir2d(along.x, along.y));
+                const double length = std::hypot(along.x, along.y);
+                const IntAna2d_AnaIntersection meeting(line, circle);
+                for (int n = 1; n <= meeting.PointCount(); ++n)
+                {
+                    ++points;
+                    const IntAna2d_IntPoint& point = meeting.Point(n);
+                    const double ahead = point.ParamOnFirst() / length;
+                    ASSERT_TRUE(Near(At(1 + ahead * along.x, 2 + ahead * along.y), placeOf(point), rounding));
+                    ASSERT_TRUE(point.ParamOnSecond() >= 0 && point.ParamOnSecond() <= TwoPi);
+                    ASSERT_TRUE(Near(onCircle(centre, radius, point.ParamOnSecond()), placeOf(point), rounding));
+                }
+            }
+            const DPOINT2 other = At(1, 1);
+            const IntAna2d_AnaIntersection meeting(circle, CircleAt(other, 1));
+            for (int n = 1; n <= meeting.PointCount(); ++n)
+            {
+                ++points;
+                const IntAna2d_IntPoint& point = meeting.Point(n);
+                ASSERT_TRUE(Near(onCircle(centre, radius, point.ParamOnFirst()), placeOf(point), rounding));
+                ASSERT_TRUE(Near(onCircle(other, 1, point.ParamOnSecond()), placeOf(point), rounding));
+                // The direction 0 may come out as a whole turn: by rounding where a sum is folded once, and always where
+                // circles touch from outside with the second on the left.
+                const bool isTurn =
+                    meeting.PointCount() == 1 && centre.x == other.x + 1 + radius && centre.y == other.y;
+                turns += isTurn ? 1 : 0;
+                ASSERT_TRUE(point.ParamOnFirst() >= 0 && point.ParamOnFirst() <= TwoPi);
+                ASSERT_TRUE(point.ParamOnSecond() >= 0 && point.ParamOnSecond() <= TwoPi);
+                ASSERT_TRUE(!isTurn || point.ParamOnSecond() == TwoPi);
+            }
+        }
+    }
+    EXPECT_GT(points, 300);
+    EXPECT_EQ(turns, 1); // radius 1 about (3, 1)
 }
