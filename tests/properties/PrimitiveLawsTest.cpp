@@ -725,7 +725,6 @@ TEST(KernelLaws, A31_TheParametersOfAPointLeadToItOnEitherCurve)
     };
     const auto placeOf = [](const IntAna2d_IntPoint& point) { return At(point.X(), point.Y()); };
     int points = 0;
-    int turns = 0;
     for (const DPOINT2& centre : Lattice(3))
     {
         for (const double radius : {0.5, 1.0, 2.0})
@@ -754,17 +753,11 @@ TEST(KernelLaws, A31_TheParametersOfAPointLeadToItOnEitherCurve)
                 const IntAna2d_IntPoint& point = meeting.Point(n);
                 ASSERT_TRUE(Near(onCircle(centre, radius, point.ParamOnFirst()), placeOf(point), rounding));
                 ASSERT_TRUE(Near(onCircle(other, 1, point.ParamOnSecond()), placeOf(point), rounding));
-                // The direction 0 may come out as a whole turn: by rounding where a sum is folded once, and always where
-                // circles touch from outside with the second on the left.
-                const bool isTurn =
-                    meeting.PointCount() == 1 && centre.x == other.x + 1 + radius && centre.y == other.y;
-                turns += isTurn ? 1 : 0;
+                // The direction 0 may come out as a whole turn where a sum is folded once.
                 ASSERT_TRUE(point.ParamOnFirst() >= 0 && point.ParamOnFirst() <= TwoPi);
                 ASSERT_TRUE(point.ParamOnSecond() >= 0 && point.ParamOnSecond() <= TwoPi);
-                ASSERT_TRUE(!isTurn || point.ParamOnSecond() == TwoPi);
             }
         }
     }
     EXPECT_GT(points, 300);
-    EXPECT_EQ(turns, 1); // radius 1 about (3, 1)
 }
