@@ -134,6 +134,16 @@ TEST(IntersectBeelineWithEllipse, AChordThroughTheCentreHasTheNegativeRootFirst)
     EXPECT_TRUE(GivesPoints({{0, 7}, HalfPi}, flat, {At(0, -1), At(0, 1)}, 0));
 }
 
+TEST(IntersectBeelineWithEllipse, AnUprightBeelineMayStartWhereOneMoreIsLost)
+{
+    // Up there the second point of the beeline is the first again, and tells no direction. Whether the beeline touches
+    // is left to its equation: at the vertex that has a double root.
+    EXPECT_EQ(1e17 + 1.0, 1e17);
+    EXPECT_TRUE(GivesPoints({At(0, 1e17), HalfPi}, flat, {At(0, -1), At(0, 1)}, 0));
+    EXPECT_TRUE(GivesPoints({At(2, 1e17), HalfPi}, flat, {At(2, 0)}, 0));
+    EXPECT_TRUE(GivesPoints({At(3, 1e17), HalfPi}, flat, {}));
+}
+
 TEST(IntersectBeelineWithEllipse, ABeelineThatMissesHasNoPoint)
 {
     EXPECT_TRUE(GivesPoints({{0, 5}, 0}, flat, {}));

@@ -431,7 +431,7 @@ TEST(IntersectEllipseWithEllipse, AgreesWithTheStepsWrittenOut)
     Random random(72);
     int compared = 0;
     reference::QuarterArcMethod::Outcomes all;
-    for (int i = 0; i < 30000; ++i)
+    for (int i = 0; i < 9000; ++i)
     {
         Ellipse a = RasterEllipse(random);
         Ellipse b = RasterEllipse(random);
@@ -481,7 +481,7 @@ TEST(IntersectEllipseWithEllipse, AgreesWithTheStepsWrittenOut)
         all.crossTwice += outcomes.crossTwice;
         all.bisectionsNotRun += outcomes.bisectionsNotRun;
     }
-    EXPECT_GT(compared, 29000);
+    EXPECT_GT(compared, 8700);
     // Every way through the comparison of two arcs was taken.
     for (const int count :
          {all.apartInX, all.above, all.meetAtLeft, all.meetAtRight, all.cross, all.equalSlopesAtEnd, all.noTurn,
@@ -497,7 +497,7 @@ TEST(IntersectEllipseWithEllipse, FindsTheZerosAlongTheFirst)
 {
     Random random(73);
     int counts[5] = {0, 0, 0, 0, 0};
-    for (int i = 0; i < 6000; ++i)
+    for (int i = 0; i < 1500; ++i)
     {
         const double size = i % 2 == 0 ? 1.0 : random.Size(10.0, 1000.0);
         const Ellipse a = LongAxisFirst(RandomEllipse(random, size));
@@ -536,9 +536,9 @@ TEST(IntersectEllipseWithEllipse, FindsTheZerosAlongTheFirst)
         ASSERT_EQ(swapped.code, found.code) << i;
         ASSERT_TRUE(SameSet(swapped.Points(), found.Points(), 2 * tolerance)) << i;
     }
-    EXPECT_GT(counts[0], 300);
-    EXPECT_GT(counts[2], 1000);
-    EXPECT_GT(counts[4], 300);
+    EXPECT_GT(counts[0], 75);
+    EXPECT_GT(counts[2], 250);
+    EXPECT_GT(counts[4], 75);
     EXPECT_EQ(counts[1] + counts[3], 0);
 }
 
@@ -570,7 +570,7 @@ TEST(IntersectEllipseWithEllipse, PointsTurnAndMoveWithTheFigures)
 {
     Random random(75);
     int meetings = 0;
-    for (int i = 0; i < 2000; ++i)
+    for (int i = 0; i < 500; ++i)
     {
         const Ellipse a = LongAxisFirst(RandomEllipse(random));
         const Ellipse b = LongAxisFirst(RandomEllipse(random));
@@ -607,5 +607,5 @@ TEST(IntersectEllipseWithEllipse, PointsTurnAndMoveWithTheFigures)
         ASSERT_TRUE(SameSet(afterMove.Points(), moved, 8e-7)) << i;
         meetings += found.code > 0 ? 1 : 0;
     }
-    EXPECT_GT(meetings, 800);
+    EXPECT_GT(meetings, 200);
 }

@@ -132,6 +132,27 @@ TEST(MapBuilders, CombiningTwoPolylinesAgreesWithASecondImplementation)
     }
 }
 
+TEST(MapBuilders, ASourceThatNoLongerRunsUpOnTheJoinedPolylineIsJoinedAlike)
+{
+    // The source of the first map goes a sliver below the tolerance against its way, where the destination jumps. Each
+    // map alone is in order, but restated on the joined polyline the first one no longer runs up.
+    const CPolyPosMap up = Map({{1e-9, 0}, {7e-10, 2}, {5.000000001, 2}}, 5, 2);
+    CPolyPosMap down = up;
+    down.Reverse();
+    const CPolyPosMap wholeUp = Map({{0, 0}, {3, 2}}, 3, 2);
+    const CPolyPosMap wholeDown = Map({{3, 2}, {0, 0}}, 3, 2);
+    const CPolyPosMap place = CPolyPosMapUtilies::CombineTwoCad(5, 3).first;
+    ASSERT_TRUE(up.IsIncrease(1) && !up.IsInvalid() && !down.IsIncrease(1) && !down.IsInvalid());
+    for (const auto& [first, second] :
+         {std::pair(up, wholeDown), std::pair(down, wholeUp), std::pair(down, wholeDown), std::pair(up, wholeUp)})
+    {
+        SCOPED_TRACE(Told(first) + " and " + Told(second));
+        ASSERT_FALSE((!place * first).IsIncrease(1));
+        EXPECT_EQ(CPolyPosMapUtilies::CombineTwonMapWithSameDst(first, second),
+                  reference::To(reference::CombineSameDestination(reference::From(first), reference::From(second))));
+    }
+}
+
 TEST(MapBuilders, CombinersAgreeWithASecondImplementation)
 {
     SomeMaps random(31);

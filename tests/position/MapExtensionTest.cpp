@@ -1,6 +1,8 @@
 #include "math/CPolyPosMapUtilies.h"
 #include "support/Maps.h"
 
+#include <climits>
+
 using namespace math;
 using namespace math::test;
 
@@ -336,6 +338,14 @@ TEST(RemoveOpenRangeFromMap, AStretchThatReachesBeyondThePolylineTakesWhatLiesOn
 {
     EXPECT_EQ(RemoveFromSource(four, {3, 7}), Map({{0, 0}, {3, 3}, {3, 4}}, 3, 4));
     EXPECT_EQ(RemoveFromSource(four, {-1, 1}), Map({{0, 0}, {0, 1}, {3, 4}}, 3, 4));
+}
+
+TEST(RemoveOpenRangeFromMap, ARestThatEndsBeyondTheNumbersOfSegmentsTakesNothing)
+{
+    // No piece is cut that ends at the greatest int, and a piece without joints changes nothing.
+    const double count = INT_MAX;
+    const CPolyPosMap map = Map({{0, 0}, {count, 4}}, INT_MAX, 4);
+    EXPECT_EQ(RemoveFromSource(map, {0, 1}), map);
 }
 
 TEST(RemoveOpenRangeFromMap, AWrappingRangeGivesNoMap)

@@ -329,6 +329,12 @@ TEST(PosMapOfACutPiece, AnEndNearANodeEndsThere)
     EXPECT_EQ(Cut({1.5, below}, 4), Map({{0, 1.5}, {1, 2}, {2, below}}, 2, 4));
 }
 
+TEST(PosMapOfACutPiece, BelowZeroSegmentsAreCutTowardsZero)
+{
+    // -2.5 lies on the segment -2 and -1.5 on the segment -1, whose node lies beyond the end already.
+    EXPECT_EQ(Cut({-2.5, -1.5}, 4), Map({{0, -2.5}, {1, -1}}, 1, 4));
+}
+
 TEST(PosMapOfACutPiece, OfTheWholeLoopIsASinglePlace)
 {
     EXPECT_EQ(Cut({2, 2}, 4), Map({{0, 2}}, 0, 4));

@@ -139,7 +139,9 @@ TEST(NormalizePos, WhereNoNumberOfLapsLeadsBackThereIsNoPosition)
     EXPECT_EQ(Wrapped(100.0, -4), -1.0);
     EXPECT_EQ(Wrapped(Infinite, 4), -1.0);
     EXPECT_EQ(Wrapped(-Infinite, 4), -1.0);
+    // No lap is ever added to a NaN or taken off it.
     EXPECT_TRUE(std::isnan(Wrapped(NaN, 4)));
+    EXPECT_TRUE(std::isnan(Wrapped(NaN, -4)));
 }
 
 TEST(NormalizePos, AnImmensePositionStillComesBack)
@@ -283,6 +285,9 @@ TEST(NormalizePosOnLapOfRange, WhereNoNumberOfLapsLeadsBackThereIsNoPosition)
     EXPECT_EQ(OnLapOf(0.5, {5, 6}, -4), -1.0);
     EXPECT_EQ(OnLapOf(Infinite, {1, 2}, 4), -1.0);
     EXPECT_EQ(OnLapOf(-Infinite, {5, 6}, 4), -1.0);
+    // The two faces of the seam need no lap.
+    EXPECT_EQ(OnLapOf(0.0, {1, 2}, -4), 0.0);
+    EXPECT_EQ(OnLapOf(-4.0, {1, 2}, -4), -4.0);
 }
 
 TEST(NormalizePosOnLapOfRange, EndsThatAreNoNumbersCountAsTheFirstLap)
