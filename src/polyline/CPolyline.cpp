@@ -1,5 +1,6 @@
 #include "math/CPolyline.h"
 
+#include "primitives/Box.h"
 #include "primitives/Tolerance.h"
 
 #include <algorithm>
@@ -38,6 +39,12 @@ double AreaOverChord(double chord, double bulge)
 double AreaUnderChord(const DPOINT2& from, const DPOINT2& to)
 {
     return (to.y + from.y) * 0.5 * (to.x - from.x);
+}
+
+DRECT BoxUpTo(const DPOINT2& from, const CPolyline::NODE& node)
+{
+    return node.bulge != 0.0 ? CSegment::GetBoundRectOfArc(from, node.point, node.bulge)
+                             : CSegment::GetBoundRectOfLine(from, node.point);
 }
 
 } // namespace
@@ -135,7 +142,7 @@ DRECT CPolyline::GetRECT() const
     DRECT box = GetSegment(0).GetBoundRect();
     for (std::size_t i = 1; i < nodes.size(); ++i)
     {
-        box.Union(box, GetSegment(i).GetBoundRect());
+        box = detail::UnionOf(box, BoxUpTo(nodes[i - 1].point, nodes[i]));
     }
     return box;
 }

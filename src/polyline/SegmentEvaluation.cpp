@@ -2,10 +2,12 @@
 
 #include "polyline/ArcForm.h"
 #include "polyline/CubicForm.h"
+#include "polyline/CubicSamples.h"
 #include "primitives/RequireChecks.h"
 #include "primitives/Tolerance.h"
 
 #include <cmath>
+#include <cstddef>
 #include <utility>
 
 #include <gp_XY.hxx>
@@ -48,18 +50,24 @@ double LengthOfArc(double chord, double bulge)
 /// Left-hand rectangle rule over the speed.
 double LengthOfCubic(const CubicForm& curve)
 {
-    constexpr double step = 0.001;
     // Just below 1: the steps add up with rounding, and the sample at 1 is not to be taken.
-    constexpr double limit = 0.9999999999;
+    constexpr std::size_t sampleCount = detail::FirstSampleFrom(0.9999999999);
+    static_assert(sampleCount % detail::SampleBlock == 0);
     double length = 0.0;
-    double t = 0.0;
-    do
+    for (std::size_t begin = 0; begin < sampleCount; begin += detail::SampleBlock)
     {
-        const DPOINT2 derivative = curve.DerivativeAt(t);
-        const double speed = std::sqrt(derivative.x * derivative.x + derivative.y * derivative.y);
-        t += step;
-        length += speed * step;
-    } while (t < limit);
+        detail::BlockOfSamples pieces{};
+        for (std::size_t i = 0; i < detail::SampleBlock; ++i)
+        {
+            const DPOINT2 derivative = curve.DerivativeAt(detail::SampleParameters[begin + i]);
+            const double speed = std::sqrt(derivative.x * derivative.x + derivative.y * derivative.y);
+            pieces[i] = speed * detail::SampleStep;
+        }
+        for (const double piece : pieces)
+        {
+            length += piece;
+        }
+    }
     return length;
 }
 

@@ -2,6 +2,8 @@
 
 #include "polyline/ArcForm.h"
 #include "polyline/CubicForm.h"
+#include "polyline/CubicSamples.h"
+#include "primitives/Box.h"
 #include "primitives/Constants.h"
 #include "primitives/Direction.h"
 #include "primitives/Tolerance.h"
@@ -56,7 +58,7 @@ double DirectionOfCubic(const CubicForm& curve, double t)
 
 void Extend(DRECT& box, const DPOINT2& point)
 {
-    box.Union(box, {point.x, point.y, 0.0, 0.0});
+    box = detail::UnionOf(box, {point.x, point.y, 0.0, 0.0});
 }
 
 /// Tells whether an arc reaches a direction. An arc may run on past 2π or below 0, by less than a turn.
@@ -152,14 +154,24 @@ DRECT CSegment::GetBoundRectOfArc(const DPOINT2& startPoint, const DPOINT2& endP
 DRECT CSegment::GetBoundRectOfBezier(const DPOINT2& startPoint, const DPOINT2& firstControl,
                                      const DPOINT2& secondControl, const DPOINT2& endPoint)
 {
-    constexpr double step = 0.001;
     // Just above 1: the steps add up with rounding, and the sample at 1 is not to be lost.
-    constexpr double limit = 1.0000000001;
+    constexpr std::size_t sampleCount = detail::FirstSampleFrom(1.0000000001);
     const CubicForm curve(startPoint, firstControl, secondControl, endPoint);
     DRECT box = {startPoint.x, startPoint.y, 0.0, 0.0};
-    for (double t = step; t <= limit; t += step)
+    for (std::size_t begin = 1; begin < sampleCount; begin += detail::SampleBlock)
     {
-        Extend(box, curve.PointAt(t));
+        detail::BlockOfSamples x{};
+        detail::BlockOfSamples y{};
+        for (std::size_t i = 0; i < detail::SampleBlock; ++i)
+        {
+            x[i] = curve.x.ValueAt(detail::SampleParameters[begin + i]);
+            y[i] = curve.y.ValueAt(detail::SampleParameters[begin + i]);
+        }
+        const std::size_t count = std::min(detail::SampleBlock, sampleCount - begin);
+        for (std::size_t i = 0; i < count; ++i)
+        {
+            Extend(box, {x[i], y[i]});
+        }
     }
     return box;
 }

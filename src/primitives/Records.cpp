@@ -1,6 +1,7 @@
 #include "primitives/RequireChecks.h"
 
 #include "math/Primitives.h"
+#include "primitives/Box.h"
 
 #include <algorithm>
 #include <cmath>
@@ -39,14 +40,7 @@ void Extend(RealRectD& box, double x, double y)
 
 bool DRECT::Union(const DRECT& a, const DRECT& b)
 {
-    const double left = std::min(a.x, b.x);
-    const double bottom = std::min(a.y, b.y);
-    const double right = std::max(a.x + a.width, b.x + b.width);
-    const double top = std::max(a.y + a.height, b.y + b.height);
-    x = left;
-    y = bottom;
-    width = right - left;
-    height = top - bottom;
+    *this = detail::UnionOf(a, b);
     return width > 0.0 && height > 0.0;
 }
 
