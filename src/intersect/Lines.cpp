@@ -86,14 +86,18 @@ bool LiesClearlyBeside(const Stretch& tested, const Stretch& base)
     return (firstSide > margin && secondSide > margin) || (firstSide < -margin && secondSide < -margin);
 }
 
-/// Tells whether the directions of two stretches differ by far more than those of lines that count as parallel.
+/// Tells whether the directions of two stretches differ by far more than those of lines that count as parallel. Lengths
+/// whose squares leave the range of numbers have no reliable direction and are not clearly anything.
 bool AreClearlyOblique(const Stretch& a, const Stretch& b)
 {
     const double ax = a.second.x - a.first.x;
     const double ay = a.second.y - a.first.y;
     const double bx = b.second.x - b.first.x;
     const double by = b.second.y - b.first.y;
-    return std::abs(ax * by - ay * bx) > 1e-6 * (std::abs(ax) + std::abs(ay)) * (std::abs(bx) + std::abs(by));
+    const double lengthOfA = std::abs(ax) + std::abs(ay);
+    const double lengthOfB = std::abs(bx) + std::abs(by);
+    const auto isModerate = [](double length) { return 1e-100 < length && length < 1e100; };
+    return isModerate(lengthOfA) && isModerate(lengthOfB) && std::abs(ax * by - ay * bx) > 1e-6 * lengthOfA * lengthOfB;
 }
 
 int MeetStretches(const Stretch& a, const Stretch& b, DPOINT2& point)
