@@ -4,7 +4,8 @@
   docs/images/draw.py          writes them beside this script
   docs/images/draw.py --check  tells whether the files there are what would be written
 
-outline_tour.svg, map_story.svg and curve_gallery.svg are drawn by the example programs of these names.
+outline_tour.svg, map_story.svg and curve_gallery.svg are drawn by the example programs of these names. map_growth.svg
+shows what scripts/bench.sh --write measured last.
 """
 
 import os
@@ -15,11 +16,12 @@ sys.dont_write_bytecode = True
 
 import curves
 import maps
+import performance
 import positions
 
 FOLDER = os.path.dirname(os.path.abspath(__file__))
 PICTURES = [positions.positions, positions.range_algebra, maps.map_graph, maps.map_composition, maps.map_combiners,
-            curves.primitives, curves.bulge, curves.quarter_arcs]
+            curves.primitives, curves.bulge, curves.quarter_arcs, performance.map_growth]
 
 
 def read(path):
