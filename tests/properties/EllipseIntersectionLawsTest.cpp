@@ -447,3 +447,47 @@ TEST(EllipseIntersectionLaws, I25_PointerAndVectorFormsOfEllipsesAgree)
         }
     }
 }
+
+TEST(EllipseIntersectionLaws, I26_ArcsOfOneEllipseOverlapOrShareTheirEnds)
+{
+    // Eighths of a turn, off the vertical.
+    const auto arcOf = [](const Ellipse& ellipse, int start, int sweep) {
+        return EllipseArc{ellipse, Folded(0.1 + start * QuarterPi), sweep * QuarterPi};
+    };
+    for (const Ellipse& ellipse :
+         {Ellipse{At(1, -1), 2, 1, 0.3}, Ellipse{At(0, 0), 1, 3, 0}, Ellipse{At(0, 2), 1, 1, 5}})
+    {
+        for (int start = 0; start < 8; ++start)
+        {
+            for (int sweep = 1; sweep < 8; ++sweep)
+            {
+                for (int otherSweep = 1; otherSweep < 8; ++otherSweep)
+                {
+                    // The first begins in the direction 0, in eighths, so that what it covers is 0 to sweep.
+                    const bool overlap = start < sweep || start + otherSweep > 8;
+                    const bool endsShared = start == sweep;
+                    const bool startShared = (start + otherSweep) % 8 == 0;
+                    for (int turn = 0; turn < 8; ++turn)
+                    {
+                        const EllipseArc first = arcOf(ellipse, turn, sweep);
+                        const EllipseArc second = arcOf(ellipse, start + turn, otherSweep);
+                        const Met met = Meet(first, second);
+                        ASSERT_EQ(met.code, overlap ? -1 : (endsShared ? 1 : 0) + (startShared ? 1 : 0))
+                            << sweep << ", " << start << " " << otherSweep << " turned by " << turn;
+                        ASSERT_EQ(Meet(second, first).code, met.code);
+                        std::vector<DPOINT2> ends;
+                        if (!overlap && startShared)
+                        {
+                            ends.push_back(AtPolar(ellipse, first.start));
+                        }
+                        if (!overlap && endsShared)
+                        {
+                            ends.push_back(AtPolar(ellipse, second.start));
+                        }
+                        ASSERT_TRUE(SameSet(met.points, ends, Rounding));
+                    }
+                }
+            }
+        }
+    }
+}

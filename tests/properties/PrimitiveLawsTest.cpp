@@ -454,21 +454,27 @@ TEST(PredicateLaws, A21_ASectorAndItsComplementPartTheDirections)
     EXPECT_EQ(atStarts, 50 * 51);
 }
 
-TEST(PredicateLaws, A22_BothFormsOfAnArcHoldTheSamePoints)
+TEST(PredicateLaws, A22_BothFormsOfAnArcHoldThePointsInItsSectorFromEitherEnd)
 {
-    for (const RoundArc& arc : GridArcs())
+    for (int start = 0; start < 12; ++start)
     {
-        for (int step = 0; step < 48; ++step)
+        for (int sweep = -11; sweep <= 11; ++sweep)
         {
-            // Every second direction is an end of some arc, every other lies well between.
-            const double direction = Pi * step / 24;
-            const DPOINT2 point = GetPointInCircle(arc.centre, arc.radius, direction);
-            const bool ccw = arc.sweep > 0;
-            const bool byAngles = IsPointInArc(point, arc.centre, arc.radius, arc.start, std::abs(arc.sweep), ccw);
-            ASSERT_EQ(IsPointInArc(point, arc.centre, arc.PointAt(0), arc.PointAt(1), ccw), byAngles);
-            ASSERT_EQ(IsPointInArc(point, arc.centre, arc.PointAt(1), arc.PointAt(0), !ccw), byAngles);
-            ASSERT_EQ(IsPointInArc(point, arc.centre, arc.radius, arc.start + arc.sweep, std::abs(arc.sweep), !ccw),
-                      byAngles);
+            const RoundArc arc{At(1, 2), 3.0, Pi * start / 6, Pi * sweep / 6};
+            for (int step = 0; step < 48 && sweep != 0; ++step)
+            {
+                // Directions of twelfths are ends of some arcs, the others lie well between.
+                const DPOINT2 point = GetPointInCircle(arc.centre, arc.radius, Pi * step / 24);
+                const bool ccw = sweep > 0;
+                const double extent = std::abs(arc.sweep);
+                const int along = (ccw ? step - 4 * start : 4 * start - step) + 96;
+                const bool isOn = along % 48 <= 4 * std::abs(sweep);
+                ASSERT_EQ(IsPointInArc(point, arc.centre, arc.radius, arc.start, extent, ccw), isOn);
+                ASSERT_EQ(IsPointInArc(point, arc.centre, arc.radius, arc.start + arc.sweep, extent, !ccw), isOn);
+                ASSERT_EQ(IsPointInArc(point, arc.centre, arc.PointAt(0), arc.PointAt(1), ccw), isOn);
+                ASSERT_EQ(IsPointInArc(point, arc.centre, arc.PointAt(1), arc.PointAt(0), !ccw), isOn);
+                ASSERT_FALSE(IsPointInArc(point, arc.centre, arc.radius + 1e-8, arc.start, extent, ccw));
+            }
         }
     }
 }
