@@ -2,7 +2,7 @@
 
 add_library(QorMathCompileOptions INTERFACE)
 target_compile_options(QorMathCompileOptions INTERFACE
-  $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion -ffp-contract=off -fno-math-errno>
+  $<$<CXX_COMPILER_ID:GNU,Clang,AppleClang>:-Wall -Wextra -Wpedantic -Wshadow -Wconversion -ffp-contract=off>
   $<$<CXX_COMPILER_ID:MSVC>:/W4 /fp:precise>)
 # Debug builds of all that is linked together let the standard library test its own preconditions.
 target_compile_definitions(QorMathCompileOptions INTERFACE $<$<CONFIG:Debug>:_GLIBCXX_ASSERTIONS>)

@@ -2,12 +2,11 @@
 
 #include "polyline/ArcForm.h"
 #include "polyline/CubicForm.h"
-#include "polyline/CubicSamples.h"
+#include "polyline/CubicLength.h"
 #include "primitives/RequireChecks.h"
 #include "primitives/Tolerance.h"
 
 #include <cmath>
-#include <cstddef>
 #include <utility>
 
 #include <gp_XY.hxx>
@@ -45,30 +44,6 @@ double LengthOfArc(double chord, double bulge)
         return chord;
     }
     return chord * 0.5 / std::sin(extent * 0.5) * extent;
-}
-
-/// Left-hand rectangle rule over the speed.
-double LengthOfCubic(const CubicForm& curve)
-{
-    // Just below 1: the steps add up with rounding, and the sample at 1 is not to be taken.
-    constexpr std::size_t sampleCount = detail::FirstSampleFrom(0.9999999999);
-    static_assert(sampleCount % detail::SampleBlock == 0);
-    double length = 0.0;
-    for (std::size_t begin = 0; begin < sampleCount; begin += detail::SampleBlock)
-    {
-        detail::BlockOfSamples pieces{};
-        for (std::size_t i = 0; i < detail::SampleBlock; ++i)
-        {
-            const DPOINT2 derivative = curve.DerivativeAt(detail::SampleParameters[begin + i]);
-            const double speed = std::sqrt(derivative.x * derivative.x + derivative.y * derivative.y);
-            pieces[i] = speed * detail::SampleStep;
-        }
-        for (const double piece : pieces)
-        {
-            length += piece;
-        }
-    }
-    return length;
 }
 
 } // namespace
@@ -185,7 +160,7 @@ double CSegment::GetLength() const
     case SegmentArc:
         return LengthOfArc(D2GetDistance(start, end), bulge);
     case SegmentBezier:
-        return LengthOfCubic(CubicForm(start, ctrl1, ctrl2, end));
+        return detail::LengthOfCubic(CubicForm(start, ctrl1, ctrl2, end));
     default:
         return 0.0;
     }
