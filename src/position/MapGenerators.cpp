@@ -107,15 +107,20 @@ bool HasIntegerPart(double position)
     return std::abs(position) < static_cast<double>(std::numeric_limits<int>::max());
 }
 
-/// One joint for each end of a stretch of a segment between two positions, the second above the first.
+/// Joints of a stretch between two positions, the second above the first: its ends, and the first and the last node in
+/// it. Those in between lie on the line of slope 1 through the two and would be dropped again.
 JointList JointsOfStretch(double start, double end)
 {
     const std::int64_t startSegment = PosRangeD::GetSegmentIndex(start);
     const std::int64_t endSegment = PosRangeD::GetSegmentIndex(end);
     JointList joints{{0.0, start}};
-    for (std::int64_t node = startSegment + 1; node <= endSegment; ++node)
+    if (endSegment > startSegment)
     {
-        joints.emplace_back(static_cast<double>(node - startSegment), static_cast<double>(node));
+        joints.emplace_back(1.0, static_cast<double>(startSegment + 1));
+    }
+    if (endSegment > startSegment + 1)
+    {
+        joints.emplace_back(static_cast<double>(endSegment - startSegment), static_cast<double>(endSegment));
     }
     const double lastNode = static_cast<double>(endSegment);
     if (!AreEqual(end, lastNode) && lastNode < end)
