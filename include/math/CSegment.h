@@ -137,8 +137,9 @@ public:
 
     /// The direction of travel at parameter `t`, radians.
     ///
-    /// @return the direction, for a line in [0, 2π); for an arc it is brought to that interval by one turn at most,
-    ///         so that a `t` far outside 0 to 1 can give a value outside it. InvalidDouble for SegmentNone and for a
+    /// @return the direction, for a line in [0, 2π); for an arc it is brought to that interval by one turn at most. That
+    ///         is not always enough: on a clockwise arc of more than three quarters of a turn it can be negative, down
+    ///         to -π/2, and a `t` far outside 0 to 1 can give any value outside. InvalidDouble for SegmentNone and for a
     ///         line or arc whose ends coincide (both coordinates within DoubleTolerance). NaN where the derivative of
     ///         a Bezier curve vanishes
     double GetAngle(double t) const;

@@ -48,7 +48,7 @@
 ///   the vector and never the result, so 0 appends nothing and still tells the count.
 ///
 /// **Failures.** No exception of the underlying geometry types leaves a member: a stretch of no length or a negative
-/// radius gives 0. NaN input gives no crash; what is counted for it has no meaning.
+/// radius gives 0, unless a member says otherwise. NaN input gives no crash; what is counted for it has no meaning.
 ///
 /// **Memory.** Pointer forms ask for none, unless degenerate input makes the kernel raise an exception, which is caught
 /// inside. A vector form grows the caller's vector and nothing else, not even that if the vector has room; it passes on
@@ -139,7 +139,9 @@ QORMATH_EXPORT int Intersect_BeelineWithCircle(const DPOINT2& point, double angl
 ///
 /// With `wantPoints` 0 the distance from the centre to the beeline is compared with the radius: 1 when they are equal
 /// within DoubleTolerance, 0 when it is greater, else 2. A negative radius is compared like any other, and a beeline
-/// for which no distance exists gives 2.
+/// for which no distance exists gives 2. The angle is not folded, so a huge or infinite one returns at once, and only
+/// π/2 and 3π/2 themselves (within DoubleTolerance) are upright: at -π/2 + 1e-10 the beeline leans by that much here, and
+/// does not in the full form.
 QORMATH_EXPORT int Intersect_BeelineWithCircle(const DPOINT2& point, double angle, const DPOINT2& centre, double radius,
                                                std::vector<DPOINT2>& points, int wantPoints);
 
@@ -302,10 +304,10 @@ QORMATH_EXPORT int Intersect_BeelineWithEllipseArc(const DPOINT2& point, double 
 
 /// A stretch and an ellipse.
 ///
-/// @param firstEnd, secondEnd     the ends of the stretch; 0 for a stretch of no length
+/// @param firstEnd, secondEnd     the ends of the stretch
 /// @param centre, a, b, rotation  the ellipse
 /// @param first, second           receive the points; either may be null
-/// @return 0, 1 or 2
+/// @return 0, 1 or 2; 0 for a stretch shorter than DoubleTolerance in both coordinates
 QORMATH_EXPORT int Intersect_LineWithEllipse(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre,
                                              double a, double b, double rotation, DPOINT2* first, DPOINT2* second);
 
@@ -316,10 +318,10 @@ QORMATH_EXPORT int Intersect_LineWithEllipse(const DPOINT2& firstEnd, const DPOI
 
 /// A stretch and an elliptical arc.
 ///
-/// @param firstEnd, secondEnd                   the ends of the stretch; 0 for a stretch of no length
+/// @param firstEnd, secondEnd                   the ends of the stretch
 /// @param centre, a, b, rotation, start, sweep  the elliptical arc
 /// @param first, second                         receive the points; either may be null
-/// @return 0, 1 or 2
+/// @return 0, 1 or 2; 0 for a stretch shorter than DoubleTolerance in both coordinates
 QORMATH_EXPORT int Intersect_LineWithEllipseArc(const DPOINT2& firstEnd, const DPOINT2& secondEnd,
                                                 const DPOINT2& centre, double a, double b, double rotation,
                                                 double start, double sweep, DPOINT2* first, DPOINT2* second);
@@ -341,10 +343,14 @@ QORMATH_EXPORT int Intersect_LineWithEllipseArc(const DPOINT2& firstEnd, const D
 // Each ellipse is cut at its four extreme points into quarter arcs, over which y is a function of x. All sixteen pairs
 // are compared by height and slope at the ends of their shared range and bisected where they cross; points that
 // coincide under DoubleTolerance are merged. The order of the points is that of the quarter arcs of the first ellipse,
-// by polar angle from its own x axis. The method is numeric, with these limits: a tangency at a point where quarter
-// arcs end may be missed, since the last bits decide; ellipses given with a < b may be rejected though they meet, since
-// a quick test reads `a` as the greater semi-axis; a search whose verticals miss an arc by rounding ends where it
-// stands.
+// by polar angle from its own x axis. The method is numeric, with these limits (docs/intersections.md has figures):
+// - A tangency at a point where quarter arcs end may be missed, since the last bits decide.
+// - Ellipses given with a < b may be rejected though they meet, since a quick test reads `a` as the greater semi-axis.
+// - Two quarter arcs give two points at most, told by heights and slopes at the ends of their shared range: where they
+//   cross oftener, or the slopes do not show it, crossings are lost.
+// - Points are found within about 1e-9. Figures of about 1e-4 and less lose crossings that merge or look like a touch;
+//   elliptical arcs, whose test of a point is relative to their size, drop a good part of them at a size of 1 already.
+// - A search whose verticals miss an arc by rounding ends where it stands.
 
 /// Two ellipses.
 ///
@@ -386,6 +392,9 @@ QORMATH_EXPORT int Intersect_EllipseWithEllipseArc(const DPOINT2& ellipseCentre,
 
 /// Two elliptical arcs. Both are read counter-clockwise, as by IsPointInEllipseArc without a direction.
 ///
+/// A negative sweep is not served: of such an arc only the two ends count, within DoubleTolerance of distance, for an
+/// overlap too.
+///
 /// @param firstCentre, firstA, firstB, firstRotation, firstStart, firstSweep        the first arc
 /// @param secondCentre, secondA, secondB, secondRotation, secondStart, secondSweep  the second arc
 /// @param first, second, third, fourth                                              receive the points; each may be
@@ -410,6 +419,9 @@ QORMATH_EXPORT int Intersect_EllipseArcWithEllipseArc(const DPOINT2& firstCentre
 /// An ellipse whose semi-axes agree is a circle, one whose `b` vanishes is the stretch between its vertices, each under
 /// DoubleTolerance: then the rules of Intersect_CircleWithCircle and Intersect_LineWithCircle hold, and the third and
 /// fourth output stay untouched. All outputs stay untouched if the radius or both semi-axes vanish.
+///
+/// A negative radius is not served, here and by the other members of a circle or an arc with an ellipse: the result is 0,
+/// or, in a flat ellipse that reaches round the circle, points that lie on neither curve.
 ///
 /// @param circleCentre, radius           the circle
 /// @param ellipseCentre, a, b, rotation  the ellipse

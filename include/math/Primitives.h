@@ -23,6 +23,11 @@ class gp_Vec2d;
 /// turn no longer changes it (from about 1e17) or an infinite one never returns. Every function that folds an angle
 /// says so. NaN comes back as it is, at once.
 ///
+/// **Extreme vectors.** Lengths are square roots of sums of squares, and are not guarded. Squares of coordinates below
+/// about 1.5e-162 vanish, and up to about 1e-154 they lose digits: such vectors have a poor length, or none. From about
+/// 1e154 on the sum overflows, and directions are lost with it: ComputeAngle(1e200, 0) gives 3π/2, as any vector of
+/// that size does, and every point has the distance 0 from a line through points that far apart.
+///
 /// **Failure.** Nothing here raises an exception of its own. A function that gives a `double` and has no answer gives
 /// InvalidDouble, one that gives a `bool` gives false, and outputs are then left untouched. Exceptions of Open CASCADE
 /// do not leave these functions.
@@ -304,7 +309,9 @@ QORMATH_EXPORT DPOINT2 CoorTransUVToXY(const DPOINT2& point, const DPOINT2& orig
 // The word In means on the curve, not in its interior; the interior of an ellipse has IsPointInsideEllipse. All
 // predicates answer false where they cannot decide, as for a curve that does not exist. A NaN counts as inside for
 // IsPointInsideEllipse and passes the tests of IsPointInLine and IsPointProjInLine that it takes part in; elsewhere it
-// gives false. Unless a form has a parameter for it, the tolerance is 1e-9.
+// gives false. But where the ends of an arc are tested by themselves, as with IsPointInArc, a point at an end that can be
+// computed is on the arc even if the extent or the tolerance is NaN. Unless a form has a parameter for it, the
+// tolerance is 1e-9.
 //
 // An arc is told by a start and an unsigned extent in radians, `ccw` true running counter-clockwise and false
 // clockwise from the start. An ellipse is told by its centre, the semi-axis `a` along its own x axis, the semi-axis
@@ -354,8 +361,8 @@ QORMATH_EXPORT bool IsAngleInSector(double angle, double startRadian, double ext
 
 /// Tells whether the direction `angle` lies in the sector that runs `extent` from `startRadian`, either way.
 ///
-/// Unlike the form without `ccw`, this one has a tolerance of DoubleTolerance at both ends. Folds an angle: an infinite
-/// one never returns.
+/// Unlike the form without `ccw`, this one has a tolerance of DoubleTolerance at both ends. False for any NaN. Folds an
+/// angle: an infinite one never returns.
 QORMATH_EXPORT bool IsAngleInSector(double angle, double startRadian, double extent, bool ccw);
 
 /// Tells whether `point` lies on the ellipse.
@@ -451,7 +458,8 @@ QORMATH_EXPORT int GetTangentPointOfEllipse(const DPOINT2& centre, double a, dou
 /// @param rotation  direction of the own x axis, best in [0, π). It is not folded for a factor above 0: elsewhere, where
 ///                  its tangent is negative, the new `b` comes out negative. Where it is folded, an infinite one never
 ///                  returns
-/// @param factor    1 changes nothing, a negative one mirrors as well. 0 is not rejected and has no sensible result
+/// @param factor    1 changes nothing; a negative one mirrors as well, so that -1 keeps both axes and makes the rotation
+///                  R to π - R, folded into [0, π). 0 is not rejected and has no sensible result
 /// @return true, always
 QORMATH_EXPORT bool ScaleEllipse(double* a, double* b, double* rotation, double factor);
 

@@ -61,8 +61,9 @@ std::size_t FindPeriod(const State& beginning, std::size_t mostSteps, const Adva
 ///
 /// `advance` takes one step on a state made of doubles alone and tells whether the search goes on. A step depends on
 /// nothing but the state, so a state that comes again means a search that would never end; it is left there. A search
-/// that ends by itself is never touched. Nearly all do so within a few dozen steps: only then is it run again and its
-/// states compared, bit by bit.
+/// that ends by itself within 4096 steps is never touched; one that has neither ended nor come round by then is left
+/// where it stands. Nearly all end within a few dozen steps: only after 128 is a search run again from its beginning and
+/// its states compared, bit by bit.
 template <typename State, typename Advance>
 void RunUntilItRepeats(State& state, const Advance& advance)
 {
