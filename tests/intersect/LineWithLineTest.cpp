@@ -221,6 +221,29 @@ TEST(IntersectLineWithLine, SharedEndsAreEqualCoordinateByCoordinate)
     EXPECT_TRUE(Gives(Meeting(a, Stretch{{-2, 1e-9}, {0, 1e-9}}), 1, {At(2, 0)}, 0));
 }
 
+TEST(IntersectLineWithLine, LinesThatCountAsOneNearTheOriginAreOneFarOutToo)
+{
+    // Two lines through the origin, 5e-10 of angle apart, count as one, though far out, where the stretches are, they
+    // are half a thousandth apart.
+    for (const double direction : {0.0, QuarterPi, HalfPi, 3 * QuarterPi, 1.0, 2.5})
+    {
+        SCOPED_TRACE(direction);
+        const auto at = [](double radian, double distance) {
+            return At(distance * std::cos(radian), distance * std::sin(radian));
+        };
+        const double other = direction + 5e-10;
+        for (const double size : {1e5, 1e-3})
+        {
+            EXPECT_EQ(Intersect_LineWithLine(at(direction, size), at(direction, 2 * size), at(other, 1.5 * size),
+                                             at(other, 3 * size), nullptr),
+                      -1);
+            EXPECT_EQ(Intersect_LineWithLine(at(direction, size), at(direction, 2 * size), at(other, 3 * size),
+                                             at(other, 4 * size), nullptr),
+                      0);
+        }
+    }
+}
+
 TEST(IntersectLineWithLine, AStretchOfNoLengthHasNoPoint)
 {
     EXPECT_TRUE(Gives(Meeting(Stretch{{1, 0}, {1, 0}}, Stretch{{0, 0}, {2, 0}}), 0, {}));

@@ -345,7 +345,7 @@ TEST(RemoveOpenRangeFromMap, ARestThatEndsBeyondTheNumbersOfSegmentsTakesNothing
     // No piece is cut that ends at the greatest int, and a piece without joints changes nothing.
     const double count = INT_MAX;
     const CPolyPosMap map = Map({{0, 0}, {count, 4}}, INT_MAX, 4);
-    EXPECT_EQ(RemoveFromSource(map, {0, 1}), map);
+    EXPECT_EQ(RemoveFromSource(map, {0, count - 1}), map);
 }
 
 TEST(RemoveOpenRangeFromMap, AWrappingRangeGivesNoMap)

@@ -361,6 +361,29 @@ TEST(PointInArc, MayCoincideWithItsEnd)
     EXPECT_FALSE(IsPointInArc(At(4 + 12e-10, 6 - 9e-10), At(1, 2), 5.0, ThreeFourFive + 1.0, 1.0, false, 0.0));
 }
 
+TEST(PointInArc, HoldsItsEndsFarFromTheOriginToo)
+{
+    // Out there the doubles lie 1.2e-7 apart, so an end of a small arc may be seen from the centre in a direction 6e-6
+    // beside that of the arc. Across the far coordinate its distance is still the radius.
+    const double radius = 0.01;
+    for (int i = -7; i <= 7; ++i)
+    {
+        const double aside = 0.002 * i + 0.0001;
+        for (const double turn : {0.0, HalfPi, Pi, ThreeHalvesPi})
+        {
+            SCOPED_TRACE(turn + aside);
+            const bool across = turn == HalfPi || turn == ThreeHalvesPi;
+            const DPOINT2 centre = across ? At(1e9, 0.25) : At(0.25, -1e9);
+            const double end = turn + aside;
+            const DPOINT2 point = GetPointInCircle(centre, radius, end);
+            EXPECT_TRUE(IsPointInArc(point, centre, radius, end, 1.0, true));
+            EXPECT_TRUE(IsPointInArc(point, centre, radius, end, 1.0, false));
+            EXPECT_TRUE(IsPointInArc(point, centre, radius, end - 1.0, 1.0, true));
+            EXPECT_TRUE(IsPointInArc(point, centre, radius, end + 1.0, 1.0, false));
+        }
+    }
+}
+
 TEST(PointInArc, IsNeverNaN)
 {
     EXPECT_FALSE(InUnitArc(At(InvalidDouble, 0), 0.0, TwoPi, true));
