@@ -258,6 +258,9 @@ public:
     /// Both operands are brought to normal form first. Then an empty operand is neutral, whatever its counts: the other
     /// one is the result.
     ///
+    /// A position that is no number is equal to none and comes after all others, so that what is made of it is defined,
+    /// but has no meaning.
+    ///
     /// The time grows with the number of joints of both maps; with the product of the two numbers where a column does not
     /// rise or fall exactly, but turns back within the tolerance, or holds a NaN or an infinity.
     ///
