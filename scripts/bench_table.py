@@ -27,7 +27,8 @@ def read(path):
     with open(path, encoding="utf-8") as file:
         results = json.load(file)
     rows = {}
-    for run in results["benchmarks"]:
+    # The runs come in random order; a family is one column of one row.
+    for run in sorted(results["benchmarks"], key=lambda one: one["family_index"]):
         if run.get("run_type") == "aggregate":
             continue
         name, who = run["run_name"].split("|")

@@ -11,8 +11,7 @@ namespace bench
 namespace
 {
 
-/// Both forms of a member whose first curve is told by `first(in)...` are entered by AddBothForms with a call that takes
-/// the trailing outputs.
+/// Both forms of a member and its floor. `call` takes an input and the outputs of either form.
 template <typename Input, typename Call, typename Floor>
 void AddBothForms(const std::string& name, const Description& description, const std::vector<Input>& inputs, Call call,
                   Floor floor)
@@ -43,7 +42,7 @@ void AddLinesWithCircles()
 
     Declare("beeline/circle, yes or no", {"the same pairs; the count", Compare::Count, 0.0, 0.0, {}});
     Enter("beeline/circle, yes or no", "ours", BeelinesAndCircles(), [=](const Two<Beeline, Circle>& in) {
-        return PointsOfVector([&](std::vector<DPOINT2>& points) { return beelineCircle(in, points, 0); });
+        return QuickCount([&](std::vector<DPOINT2>& points) { return beelineCircle(in, points, 0); });
     });
     Enter("beeline/circle, yes or no", "floor", BeelinesAndCircles(),
           [](const Two<Beeline, Circle>& in) { return floors::BeelineMeetsCircle(in.first, in.second); });
@@ -89,7 +88,7 @@ void AddCirclePairs()
                  floors::CircleCircle);
     Declare("circle/circle, yes or no", {"the same pairs; the count", Compare::Count, 0.0, 0.0, {}});
     Enter("circle/circle, yes or no", "ours", CirclePairs(), [=](const Two<Circle, Circle>& in) {
-        return PointsOfVector([&](std::vector<DPOINT2>& points) { return circleCircle(in, points, 0); });
+        return QuickCount([&](std::vector<DPOINT2>& points) { return circleCircle(in, points, 0); });
     });
     Enter("circle/circle, yes or no", "floor", CirclePairs(),
           [](const Two<Circle, Circle>& in) { return floors::CirclesMeet(in.first, in.second); });

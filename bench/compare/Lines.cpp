@@ -64,7 +64,7 @@ void AddLines()
 
     Declare("segment/segment, yes or no", {"the same pairs; whether they meet", Compare::Count, 0.0, 1.5, {}});
     Enter("segment/segment, yes or no", "ours", StretchPairs(), [](const StretchPair& in) {
-        return PointsOfVector([&](std::vector<DPOINT2>& points) {
+        return QuickCount([&](std::vector<DPOINT2>& points) {
             return math::Intersect_LineWithLine(in.first.from, in.first.to, in.second.from, in.second.to, points, 0);
         });
     });

@@ -51,23 +51,34 @@ inline Answer FourPoints(Intersect intersect)
     return answer;
 }
 
-/// The vector form, on a vector that has room.
+/// A vector that has room, so that growing it is not timed.
+inline std::vector<DPOINT2> reusedPoints = [] {
+    std::vector<DPOINT2> list;
+    list.reserve(16);
+    return list;
+}();
+
+/// The vector form.
 template <typename Intersect>
 inline Answer PointsOfVector(Intersect intersect)
 {
-    static std::vector<DPOINT2> points = [] {
-        std::vector<DPOINT2> list;
-        list.reserve(16);
-        return list;
-    }();
     Answer answer;
-    points.clear();
-    answer.count = intersect(points);
-    for (std::size_t i = 0; i < points.size() && i < 4; ++i)
+    reusedPoints.clear();
+    answer.count = intersect(reusedPoints);
+    for (std::size_t i = 0; i < reusedPoints.size() && i < 4; ++i)
     {
-        answer.values[2 * i] = points[i].x;
-        answer.values[2 * i + 1] = points[i].y;
+        answer.values[2 * i] = reusedPoints[i].x;
+        answer.values[2 * i + 1] = reusedPoints[i].y;
     }
+    return answer;
+}
+
+/// The vector form asked for the count alone: it leaves the vector as it is.
+template <typename Intersect>
+inline Answer QuickCount(Intersect intersect)
+{
+    Answer answer;
+    answer.count = intersect(reusedPoints);
     return answer;
 }
 
