@@ -340,6 +340,9 @@ TEST(PolylineLaws, L9_TheAreaIsThatOfTheShoelaceFormulaNegatedExceptForSkippedNo
     const CPolyline withCircle = Outline(At(0, 0), {{1, 0}, {1, 1}, {1, 1 + chord, bulge}, {0, 1}, {0, 0}});
     EXPECT_TRUE(Near(withCircle.GetArea(), -1, 1e-8));
     EXPECT_TRUE(Near(AreaByTriangles(withCircle), 1 + Pi / 4, 1e-3));
+    // A last node that is skipped leaves a gap to the start, which is closed: 1000 times its width otherwise.
+    const CPolyline high = Outline(At(0, 1000), {{0, 999}, {1, 999}, {1, 1000}, {5e-10, 1000}, {0, 1000}});
+    EXPECT_TRUE(Near(high.GetArea(), -AreaByTriangles(high), 1e-9));
 }
 
 TEST(PolylineLaws, L10_CuttingASegmentChangesNeitherAreaNorLengthNorBox)
