@@ -59,7 +59,7 @@ case "$form" in
         sed '/^<!-- the table -->$/q' "$page" >"$new"
         {
             printf 'Measured on %s at commit %s, %s, Release, %s, %s cores.\n\n' "$(date -u +%F)" \
-                "$(git rev-parse --short HEAD)" "$(g++ --version | head -1)" "$(processor)" "$(nproc)"
+                "$(git describe --always --dirty --exclude "*")" "$(g++ --version | head -1)" "$(processor)" "$(nproc)"
             scripts/bench_table.py "$results" --markdown
         } >>"$new"
         cat "$new" >"$page"

@@ -12,6 +12,8 @@ import sys
 PEERS = ["lib2geom", "CGAL", "Boost", "GEOS", "GSL"]
 # The aims for a composition are times, in nanoseconds for the whole: those of a row with so many joints.
 COMPOSITION_AIMS = {10: 1e3, 100: 15e3, 1000: 200e3, 10000: 2e6, 100000: 20e6}
+# What differs by less is not told apart.
+NOISE = 1.02
 SIZES = [10, 100, 1000, 10000, 100000]
 GROWING = ["composition", "filling", "smoothing", "normal form", "segment list", "evaluation"]
 
@@ -82,7 +84,7 @@ def cells(row, rows):
     ordinary = rows.get(row.ordinary)
     floor = ordinary.times["ours"] if ordinary else row.times.get("floor")
     aim, share = aim_of(row, rows)
-    verdict = "" if share is None else ("yes" if share <= 1.0 else "no")
+    verdict = "" if share is None else ("yes" if share <= NOISE else "no")
     return ([row.name, length(ours), length(row.times.get("vector"))] +
             [length(row.times.get(peer)) for peer in PEERS] +
             [length(floor), ratio(ours, min(peers) if peers else None), ratio(ours, floor), aim, verdict])
