@@ -74,6 +74,21 @@ TEST(IntersectBeelineWithEllipseArc, BothEndsCountWithinTheToleranceOfAngle)
     EXPECT_TRUE(Gives(Meeting(chord, ArcOf(leftPolar, rightPolar - leftPolar)), 2, {right, left}));
 }
 
+TEST(IntersectBeelineWithEllipseArc, APointInTheCentreOfANeedleHasNoDirection)
+{
+    // The upright beeline crosses in (0, ±6e-10), both of whose coordinates are zero; in (0, ±1.2e-9) they are not.
+    const Beeline upright{{0, 0}, HalfPi};
+    EXPECT_TRUE(Gives(Meeting(Stretch{{0, -1}, {0, 1}}, Ellipse{{0, 0}, 1, 6e-10, 0}), 2, {At(0, -6e-10), At(0, 6e-10)},
+                      1e-20));
+    for (const double start : {0.0, 0.5, 2.0, 4.0})
+    {
+        SCOPED_TRACE(start);
+        EXPECT_TRUE(Gives(Meeting(upright, EllipseArc{{{0, 0}, 1, 6e-10, 0}, start, 6.25}), 0, {}));
+        EXPECT_TRUE(Gives(Meeting(upright, EllipseArc{{{0, 0}, 1, 1.2e-9, 0}, start, 6.25}), 2,
+                          {At(0, -1.2e-9), At(0, 1.2e-9)}, 1e-20));
+    }
+}
+
 TEST(IntersectBeelineWithEllipseArc, AnArcOfNoSweepHoldsItsStart)
 {
     EXPECT_TRUE(Gives(Meeting(chord, ArcOf(rightPolar, 0)), 1, {right}));
