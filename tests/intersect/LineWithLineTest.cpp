@@ -323,6 +323,16 @@ TEST(IntersectLineWithLine, NumbersThatAreNoneNeitherRaiseNorHang)
     }
 }
 
+TEST(IntersectLineWithLine, StretchesOfNearlyOneDirectionFarOutCountAsOneLine)
+{
+    // Both lines pass through the origin, half a nanoradian apart: less than the kernel tells, and their distances from
+    // the origin agree. So they are one line, although the stretches lie 0.7 to 1.4 thousandths apart.
+    DPOINT2 point = Untouched();
+    EXPECT_EQ(Intersect_LineWithLine({1e6, 1e6}, {2e6, 2e6}, {1e6, 1e6 + 0.001}, {2e6, 2e6 + 0.002}, &point), -1);
+    EXPECT_EQ(point, Untouched());
+    EXPECT_EQ(Intersect_LineWithLine({1e6, 1e6}, {2e6, 2e6}, {3e6, 3e6 + 0.003}, {4e6, 4e6 + 0.004}, &point), 0);
+}
+
 TEST(IntersectLineWithLine, AnOutputMayBeAnInput)
 {
     for (int i = 0; i < 4; ++i)
