@@ -626,15 +626,16 @@ inline double Interpolate(double at, double from, double to, double fromValue, d
     return (at - from) / (to - from) * (toValue - fromValue) + fromValue;
 }
 
-/// Tells whether both columns rise.
+/// Tells whether both columns rise, in a loop without branches.
 inline bool Rises(const Joints& joints)
 {
-    bool rises = true;
+    int falls = 0;
     for (std::size_t i = 1; i < joints.size(); ++i)
     {
-        rises &= (joints[i].first >= joints[i - 1].first) & (joints[i].second >= joints[i - 1].second);
+        falls |= static_cast<int>(joints[i].first < joints[i - 1].first);
+        falls |= static_cast<int>(joints[i].second < joints[i - 1].second);
     }
-    return rises;
+    return falls == 0;
 }
 
 /// The scan for validity and a binary search.
