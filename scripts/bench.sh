@@ -19,7 +19,7 @@ filter=.
 while [ $# -gt 0 ]; do
     case "$1" in
         --markdown) form=markdown ;;
-        --write) form=write ;;
+        --write) form="write" ;;
         --quick) runs=(--benchmark_min_time=0.01) ;;
         -*) die "usage: bench.sh [--quick] [--markdown | --write] [FILTER]" ;;
         *) filter=$1 ;;
