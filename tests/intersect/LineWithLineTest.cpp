@@ -244,6 +244,22 @@ TEST(IntersectLineWithLine, LinesThatCountAsOneNearTheOriginAreOneFarOutToo)
     }
 }
 
+TEST(IntersectLineWithLine, StretchesOfAnySizeWhoseSquaresAreNumbersCross)
+{
+    for (const double size : {1e-150, 1e-101, 1e-99, 1e-9, 1.0, 1e9, 1e99, 1e101, 1e150})
+    {
+        SCOPED_TRACE(size);
+        const DPOINT2 left = At(-size, 0);
+        const DPOINT2 right = At(size, 0);
+        DPOINT2 point = Untouched();
+        EXPECT_EQ(Intersect_LineWithLine(left, right, At(0, -size), At(0, size), &point), 1);
+        EXPECT_EQ(point, At(0, 0));
+        // One that stops half way is further off than the tolerance only if it is of some size.
+        const int expected = size > 1e-8 ? 0 : 1;
+        EXPECT_EQ(Intersect_LineWithLine(left, right, At(0, size / 2), At(0, size), &point), expected);
+    }
+}
+
 TEST(IntersectLineWithLine, AStretchOfNoLengthHasNoPoint)
 {
     EXPECT_TRUE(Gives(Meeting(Stretch{{1, 0}, {1, 0}}, Stretch{{0, 0}, {2, 0}}), 0, {}));

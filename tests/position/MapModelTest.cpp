@@ -276,6 +276,14 @@ TEST(PosMapIsInvalid, APolylineOfOpenSizeHasRoomForNoMoreThanTheTolerance)
     EXPECT_TRUE(Map({{0, 0}, {0, 1}}, -1, 4).IsInvalid());
 }
 
+TEST(PosMapIsInvalid, NoNumberOfSegmentsHoldsAColumnWithoutEnd)
+{
+    EXPECT_TRUE(Map({{0, 0}, {Infinite, 1}}, 4, 4).IsInvalid());
+    EXPECT_TRUE(Map({{-Infinite, 0}, {1, 1}}, 4, 4).IsInvalid());
+    EXPECT_TRUE(Map({{0, 0}, {1, Infinite}}, 4, 4).IsInvalid());
+    EXPECT_TRUE(Map({{0, 1}, {1, -Infinite}}, 4, 4).IsInvalid());
+}
+
 TEST(PosMapIsInvalid, TheValuesThemselvesAreNotItsBusiness)
 {
     EXPECT_FALSE(Map({{0, 0}, {NaN, 1}, {2, 2}}, 4, 4).IsInvalid());

@@ -384,6 +384,19 @@ TEST(PointInArc, HoldsItsEndsFarFromTheOriginToo)
     }
 }
 
+TEST(PointInArc, MayLieOnAnArcOfAnySizeWhoseSquareIsANumber)
+{
+    for (const double radius : {1e-8, 1e-7, 1e-5, 1.0, 1e9, 1e99, 1e101, 1e150})
+    {
+        SCOPED_TRACE(radius);
+        const DPOINT2 point = At(radius, 0);
+        EXPECT_TRUE(IsPointInArc(point, At(0, 0), radius, -0.5, 1.0, true));
+        EXPECT_FALSE(IsPointInArc(point, At(0, 0), radius, 0.5, 1.0, true));
+        EXPECT_TRUE(IsPointInArc(point, At(0, 0), radius, 0.5, 1.0, false));
+        EXPECT_FALSE(IsPointInArc(point, At(0, 0), radius, -0.5, 1.0, false));
+    }
+}
+
 TEST(PointInArc, IsNeverNaN)
 {
     EXPECT_FALSE(InUnitArc(At(InvalidDouble, 0), 0.0, TwoPi, true));
