@@ -1,6 +1,8 @@
 #include "math/CSegment.h"
 #include "support/Segments.h"
 
+#include <tuple>
+
 using namespace math;
 using namespace math::test;
 
@@ -254,6 +256,29 @@ TEST(SegmentGetNearestPoint, SnappingReachesOverTheDirectionZero)
     {
         const CSegment arc = Turning(row.from, row.sweep);
         EXPECT_EQ(NearestOn(arc, Towards(row.query, 2)).t, row.t) << row.from << " over " << row.sweep;
+    }
+}
+
+TEST(SegmentGetNearestPoint, StraightBeyondTheStartLiesInNoGapHoweverFar)
+{
+    // So far out that the distances to both ends round to one; the direction is that of the start to the last bit, since
+    // a power of two times the way from the centre to the start has it.
+    for (const auto& [start, end, bulge] :
+         {std::tuple(At(4, 0), At(0, 4), 0.5), std::tuple(At(4, 1), At(-4, 3), 0.75),
+          std::tuple(At(0, 4), At(4, 0), -0.5), std::tuple(At(-4, 3), At(4, 1), -0.75)})
+    {
+        DPOINT2 arcCentre;
+        double arcRadius = 0;
+        double startRadian = 0;
+        double sweep = 0;
+        ASSERT_TRUE(SolveArc(start, end, bulge, &arcCentre, &arcRadius, &startRadian, &sweep));
+        const DPOINT2 far = {0x1p80 * (start.x - arcCentre.x), 0x1p80 * (start.y - arcCentre.y)};
+        ASSERT_EQ(D2GetDistance(far, start), D2GetDistance(far, end));
+        ASSERT_EQ(ComputeAngle(far.x - arcCentre.x, far.y - arcCentre.y),
+                  ComputeAngle(start.x - arcCentre.x, start.y - arcCentre.y));
+        const Nearest nearest = NearestOn(CSegment(start, end, bulge), far);
+        EXPECT_EQ(nearest.t, 0.0);
+        EXPECT_TRUE(Near(nearest.point, start, 1e-14));
     }
 }
 
