@@ -346,6 +346,12 @@ void CheckPointsLieOnCurves(int index, const Curve& x, const Curve& y, const Ans
         // Arcs of one circle are compared by their ends alone, in rows of their own.
         return;
     }
+    const bool bothRound = std::abs(x.a) > 0.0 && std::abs(y.a) > 0.0;
+    if (bothRound && std::hypot(x.p->x - y.p->x, x.p->y - y.p->y) < 1e-5)
+    {
+        // The chord of circles is found with the error of the squared radii over the distance of the centres.
+        return;
+    }
     const bool isEnd = SamePoint(full.points[0], *x.p) || SamePoint(full.points[0], *x.q);
     if (index == LineWithLine && isEnd)
     {
