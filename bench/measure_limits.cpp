@@ -218,7 +218,7 @@ void MeasureEllipticalArcs()
     std::puts("\nTwo ellipses through a known point: that crossing missing from the answer");
     std::puts("  semi-axes      ellipses   ellipse/arc   arc/arc   circle/arc");
     constexpr int trials = 20000;
-    for (const double size : {1e-2, 1e-1, 1.0, 1e1, 1e2, 1e3, 1e4})
+    for (const double size : {1e-6, 1e-5, 1e-4, 1e-3, 1e-2, 1e-1, 1.0, 1e1, 1e2, 1e3, 1e4})
     {
         Random random(4);
         std::array<int, 4> missing{};

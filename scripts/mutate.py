@@ -132,7 +132,7 @@ class Workshop:
         self.build = pathlib.Path(directory) / 'build'
         self.jobs = str(jobs)
         self.limits = {}
-        subprocess.check_call(['git', 'clone', '--quiet', '.', self.tree])
+        subprocess.check_call(['git', '-c', 'advice.detachedHead=false', 'clone', '--quiet', '.', self.tree])
 
     def prepare(self):
         """Builds everything unchanged; every test has to pass."""

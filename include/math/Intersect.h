@@ -12,7 +12,8 @@
 /// - A *line* in a member's name is a bounded stretch between two ends.
 /// - A *circle* is a centre and a radius.
 /// - An *arc* is a circle with a start angle and a signed sweep: a positive sweep runs counter-clockwise from the
-///   start, a negative one clockwise, and its absolute value is the extent. A sweep of 0 holds the start point alone.
+///   start, a negative one clockwise, and its absolute value is the extent. A sweep of 0 holds the start point alone,
+///   but see Intersect_ArcWithArc.
 ///
 /// **Beelines.** The angle is first brought into [0, π). Within DoubleTolerance of π/2 the beeline is vertical,
 /// everywhere else it has the direction (1, tan angle), enormous but finite just off the vertical.
@@ -104,7 +105,8 @@ QORMATH_EXPORT int Intersect_BeelineWithLine(const DPOINT2& p, double angleOfP, 
 ///
 /// Stretches of one straight line are compared along x, or along y when the first stretch is vertical within
 /// DoubleTolerance. Touching end to end they meet in that end: in the first stretch's first end if it coincides with
-/// an end of the second stretch, otherwise in its second end.
+/// an end of the second stretch, otherwise in its second end. Touching is asked along that axis alone, an end by both
+/// coordinates: of steep stretches whose ends are between 1e-9 and a few times that apart the far end may be told.
 ///
 /// @param firstEndOfA, secondEndOfA  the first stretch
 /// @param firstEndOfB, secondEndOfB  the second stretch
@@ -243,7 +245,9 @@ QORMATH_EXPORT int Intersect_CircleWithArc(const DPOINT2& circleCentre, double c
 /// | anything else                               | 0      | untouched         | untouched             |
 ///
 /// A second arc wholly inside the first takes the second row, so the overlap is told up to the first's end. A first
-/// arc wholly inside the second takes the last row.
+/// arc wholly inside the second takes the last row. An arc of sweep 0 runs from its start to its start, which passes
+/// for the whole circle here: two of them on one circle overlap. Centres whose distance underflows, less than about
+/// 1e-162 apart, are the same.
 ///
 /// @param firstCentre, firstRadius, firstStart, firstSweep      the first arc
 /// @param secondCentre, secondRadius, secondStart, secondSweep  the second arc
