@@ -14,7 +14,7 @@ cd "$(dirname "$0")/.."
 preset=${1:-release}
 shift $(($# > 0 ? 1 : 0))
 
-packages=(g++ cmake ninja-build pkgconf libocct-foundation-dev libgtest-dev libdxflib-dev python3)
+packages=(g++ cmake ninja-build pkgconf libocct-foundation-dev libgtest-dev libmpfr-dev libdxflib-dev python3)
 case $preset in
     release | dev | asan | tsan) ;;
     clang) packages+=(clang) ;;
