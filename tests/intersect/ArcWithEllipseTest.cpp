@@ -19,16 +19,6 @@ const std::vector<DPOINT2> crossings = {{3, 2.4}, {0.125, upperY}, {0.125, -uppe
 // 1e-9 of height at the flat crossing, over the difference 0.3 of the slopes there.
 constexpr double nearby = 3e-8;
 
-std::vector<DPOINT2> Pick(const std::vector<std::size_t>& indices)
-{
-    std::vector<DPOINT2> points;
-    for (const std::size_t index : indices)
-    {
-        points.push_back(crossings[index]);
-    }
-    return points;
-}
-
 Arc ArcOf(double start, double sweep)
 {
     return {{1, 0}, radius, start, sweep};
@@ -40,11 +30,11 @@ TEST(IntersectArcWithEllipse, CrossingsOnTheArcCountInTheOrderOfTheEllipse)
 {
     EXPECT_TRUE(GivesFour(Meeting(ArcOf(0, 6.2), wide), 4, crossings, nearby));
     EXPECT_TRUE(GivesFour(Meeting(ArcOf(6, -6), wide), 4, crossings, nearby));
-    EXPECT_TRUE(GivesFour(Meeting(ArcOf(1, 5), wide), 3, Pick({1, 2, 3}), nearby));
-    EXPECT_TRUE(GivesFour(Meeting(ArcOf(5, -5), wide), 3, Pick({0, 1, 2}), nearby));
-    EXPECT_TRUE(GivesFour(Meeting(ArcOf(5, 2.5), wide), 2, Pick({0, 3}), nearby));
-    EXPECT_TRUE(GivesFour(Meeting(ArcOf(4, -3), wide), 1, Pick({1}), nearby));
-    EXPECT_TRUE(GivesFour(Meeting(ArcOf(4, 1), wide), 1, Pick({2}), nearby));
+    EXPECT_TRUE(GivesFour(Meeting(ArcOf(1, 5), wide), 3, Pick(crossings, {1, 2, 3}), nearby));
+    EXPECT_TRUE(GivesFour(Meeting(ArcOf(5, -5), wide), 3, Pick(crossings, {0, 1, 2}), nearby));
+    EXPECT_TRUE(GivesFour(Meeting(ArcOf(5, 2.5), wide), 2, Pick(crossings, {0, 3}), nearby));
+    EXPECT_TRUE(GivesFour(Meeting(ArcOf(4, -3), wide), 1, Pick(crossings, {1}), nearby));
+    EXPECT_TRUE(GivesFour(Meeting(ArcOf(4, 1), wide), 1, Pick(crossings, {2}), nearby));
     EXPECT_TRUE(GivesFour(Meeting(ArcOf(2, 2), wide), 0, {}));
     EXPECT_TRUE(GivesFour(Meeting(ArcOf(0.8, -1), wide), 0, {}));
 }
@@ -175,5 +165,5 @@ TEST(IntersectArcWithEllipse, AnOutputOrTheVectorMayHoldTheInput)
     EXPECT_TRUE(Near(outputs[0], crossings[3], nearby));
     std::vector<DPOINT2> points = {{1, 0}, {0, 0}};
     EXPECT_EQ(Intersect_ArcWithEllipse(points[0], radius, 5, 2.5, points[1], 5, 3, 0, points, -1), 2);
-    EXPECT_TRUE(SameSet(points, Pick({0, 3}), nearby));
+    EXPECT_TRUE(SameSet(points, Pick(crossings, {0, 3}), nearby));
 }

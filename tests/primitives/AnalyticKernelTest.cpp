@@ -1,3 +1,4 @@
+#include "primitives/KernelReadings.h"
 #include "support/Failures.h"
 #include "support/Support.h"
 
@@ -24,30 +25,6 @@ gp_Lin2d Line(double x, double y, double directionX, double directionY)
 gp_Circ2d Circle(double x, double y, double radius)
 {
     return gp_Circ2d(gp_Ax2d(gp_Pnt2d(x, y), gp_Dir2d(1.0, 0.0)), radius);
-}
-
-/// What came out, in words: "identical", "parallel", "apart" or the number of points.
-std::string Outcome(const IntAna2d_AnaIntersection& intersection)
-{
-    if (!intersection.IsDone())
-    {
-        return "not done";
-    }
-    const std::string flags = std::string(intersection.IsParallel() ? "parallel " : "") +
-                              (intersection.IsIdentical() ? "identical " : "") +
-                              (intersection.IsEmpty() ? "empty " : "");
-    return flags + std::to_string(intersection.PointCount());
-}
-
-DPOINT2 PointOf(const IntAna2d_AnaIntersection& intersection, int n)
-{
-    return At(intersection.Point(n).X(), intersection.Point(n).Y());
-}
-
-/// The parameters of the n-th point on both curves.
-DPOINT2 ParametersOf(const IntAna2d_AnaIntersection& intersection, int n)
-{
-    return At(intersection.Point(n).ParamOnFirst(), intersection.Point(n).ParamOnSecond());
 }
 
 DPOINT2 AtParameter(const gp_Lin2d& line, double parameter)

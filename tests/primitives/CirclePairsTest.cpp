@@ -1,3 +1,4 @@
+#include "primitives/KernelReadings.h"
 #include "support/Failures.h"
 #include "support/Support.h"
 
@@ -24,28 +25,6 @@ gp_Circ2d Circle(const DPOINT2& centre, double radius, double radian = 0.0, bool
 IntAna2d_AnaIntersection Side(double firstRadius, double secondRadius, double distance)
 {
     return IntAna2d_AnaIntersection(Circle(At(0, 0), firstRadius), Circle(At(distance, 0), secondRadius));
-}
-
-std::string Outcome(const IntAna2d_AnaIntersection& intersection)
-{
-    if (!intersection.IsDone())
-    {
-        return "not done";
-    }
-    const std::string flags = std::string(intersection.IsParallel() ? "parallel " : "") +
-                              (intersection.IsIdentical() ? "identical " : "") +
-                              (intersection.IsEmpty() ? "empty " : "");
-    return flags + std::to_string(intersection.PointCount());
-}
-
-DPOINT2 PointOf(const IntAna2d_AnaIntersection& intersection, int n)
-{
-    return At(intersection.Point(n).X(), intersection.Point(n).Y());
-}
-
-DPOINT2 ParametersOf(const IntAna2d_AnaIntersection& intersection, int n)
-{
-    return At(intersection.Point(n).ParamOnFirst(), intersection.Point(n).ParamOnSecond());
 }
 
 } // namespace

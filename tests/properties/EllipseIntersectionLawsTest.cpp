@@ -1,3 +1,4 @@
+#include "Meet.h"
 #include "Motions.h"
 #include "support/Curves.h"
 #include "support/Ellipses.h"
@@ -68,39 +69,11 @@ std::vector<Beeline> GridBeelines()
     return beelines;
 }
 
-struct Met
-{
-    int code;
-    std::vector<DPOINT2> points;
-};
-
 Met Meet(const Beeline& a, const Ellipse& b)
 {
     Met met{0, {}};
     met.code = Intersect_BeelineWithEllipse(a.point, a.angle, b.centre, b.a, b.b, b.rotation, met.points, -1);
     return met;
-}
-
-template <class First, class Second>
-Met Meet(const First& first, const Second& second)
-{
-    Met met{0, {}};
-    met.code = Meeting(first, second).vectorForm(met.points, -1);
-    return met;
-}
-
-::testing::AssertionResult SameAnswer(const Met& found, const Met& expected, double tolerance)
-{
-    if (found.code != expected.code)
-    {
-        return ::testing::AssertionFailure() << found.code << " instead of " << expected.code;
-    }
-    return SameSet(found.points, expected.points, tolerance);
-}
-
-double DistanceFrom(const Beeline& beeline, const DPOINT2& point)
-{
-    return std::abs(CrossOf(At(std::cos(beeline.angle), std::sin(beeline.angle)), Minus(point, beeline.point)));
 }
 
 /// How far apart two points of one tangency may be: a dip by 1e-9 into an ellipse cuts a chord of this half length,

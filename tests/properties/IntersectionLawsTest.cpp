@@ -1,3 +1,4 @@
+#include "Meet.h"
 #include "Motions.h"
 #include "support/Curves.h"
 #include "support/Ellipses.h"
@@ -154,38 +155,7 @@ std::vector<OctantArc> GridArcs()
     return chosen;
 }
 
-// ---- Running a member ----
-
-struct Met
-{
-    int code;
-    std::vector<DPOINT2> points;
-};
-
-template <class First, class Second>
-Met Meet(const First& first, const Second& second)
-{
-    Met met{0, {}};
-    met.code = Meeting(first, second).vectorForm(met.points, -1);
-    return met;
-}
-
-/// The same answer, the points in whatever order.
-::testing::AssertionResult SameAnswer(const Met& found, const Met& expected, double tolerance)
-{
-    if (found.code != expected.code)
-    {
-        return ::testing::AssertionFailure() << found.code << " instead of " << expected.code;
-    }
-    return SameSet(found.points, expected.points, tolerance);
-}
-
 // ---- Distance from a curve ----
-
-double DistanceFrom(const Beeline& beeline, const DPOINT2& point)
-{
-    return std::abs(CrossOf(At(std::cos(beeline.angle), std::sin(beeline.angle)), Minus(point, beeline.point)));
-}
 
 double DistanceFrom(const Stretch& stretch, const DPOINT2& point)
 {

@@ -17,6 +17,17 @@
 namespace math::test
 {
 
+/// Those points that have the given indices.
+inline std::vector<DPOINT2> Pick(const std::vector<DPOINT2>& points, const std::vector<std::size_t>& indices)
+{
+    std::vector<DPOINT2> picked;
+    for (const std::size_t index : indices)
+    {
+        picked.push_back(points[index]);
+    }
+    return picked;
+}
+
 struct Ellipse
 {
     DPOINT2 centre;
