@@ -22,7 +22,7 @@ inline void Put(Answer& answer, double x, double y)
     ++answer.count;
 }
 
-// ---- Straight lines ----
+// Straight lines
 
 inline Answer SegmentSegment(const Stretch& a, const Stretch& b)
 {
@@ -53,7 +53,7 @@ inline Answer SegmentsMeet(const Stretch& a, const Stretch& b)
     return answer;
 }
 
-// ---- Straight lines with circles and arcs ----
+// Straight lines with circles and arcs
 
 /// Tells whether a direction lies on an arc.
 inline bool InSweep(double angle, double start, double sweep)
@@ -131,7 +131,7 @@ inline Answer SegmentArc(const Stretch& line, const Arc& arc)
                       [&](double x, double y, double t) { return OnStretch(t) && OnArc(arc, x, y); });
 }
 
-// ---- Circles and arcs ----
+// Circles and arcs
 
 template <typename Keep>
 inline Answer CirclesKeeping(const DPOINT2& p, double pRadius, const DPOINT2& q, double qRadius, Keep keep)
@@ -185,7 +185,7 @@ inline Answer ArcArc(const Arc& a, const Arc& b)
                           [&](double x, double y) { return OnArc(a, x, y) && OnArc(b, x, y); });
 }
 
-// ---- Ellipses ----
+// Ellipses
 
 /// Into the frame in which an ellipse is the unit circle.
 struct UnitFrame
@@ -351,7 +351,7 @@ inline Ellipse AsEllipse(const SomeCircle& circle)
     return {circle.centre, circle.radius, circle.radius, 0.0};
 }
 
-// ---- Equations ----
+// Equations
 
 inline Answer Quadratic(const Coefficients& q)
 {
@@ -395,7 +395,7 @@ inline Answer Cubic(const Coefficients& k)
     return answer;
 }
 
-// ---- Segments ----
+// Segments
 
 struct ArcForm
 {
@@ -545,7 +545,7 @@ inline Bounds BoundsOfBezier(const math::CSegment& s)
     return bounds;
 }
 
-// ---- Outlines ----
+// Outlines
 
 template <typename Visit>
 inline void ForEachNode(const math::CPolyline& outline, Visit visit)
@@ -617,7 +617,7 @@ inline DPOINT2 PointOfOutline(const math::CPolyline& outline, double position)
     return node.bulge == 0.0 ? PointOfLine(segment, t) : PointOfArc(segment, t);
 }
 
-// ---- Maps ----
+// Maps
 
 using Joints = std::vector<std::pair<double, double>>;
 

@@ -135,7 +135,7 @@ private:
 inline constexpr std::size_t InputCount = 4096;
 inline constexpr std::size_t EllipseInputCount = 1024;
 
-// ---- Curves in a square of 10 by 10, about as large as the square ----
+// Curves in a square of 10 by 10, about as large as the square
 
 const std::vector<Two<Stretch, Stretch>>& StretchPairs();
 const std::vector<Two<Beeline, Circle>>& BeelinesAndCircles();
@@ -157,7 +157,7 @@ const std::vector<Two<Circle, EllipseArc>>& CirclesAndEllipseArcs();
 const std::vector<Two<Arc, EllipseArc>>& ArcsAndEllipseArcs();
 const std::vector<Two<EllipseArc, EllipseArc>>& EllipseArcPairs();
 
-// ---- Equations ----
+// Equations
 
 /// Quadratics (d is not used): half of them with two real roots, half with none.
 const std::vector<Coefficients>& Quadratics();
@@ -165,7 +165,7 @@ const std::vector<Coefficients>& Quadratics();
 /// Cubics, from three roots or from one root and a quadratic without roots.
 const std::vector<Coefficients>& Cubics();
 
-// ---- Segments ----
+// Segments
 
 enum class Kind
 {
@@ -177,7 +177,7 @@ enum class Kind
 const std::vector<SegmentAndParameter>& SegmentsAndParameters(Kind kind);
 const std::vector<SegmentAndPoint>& SegmentsAndPoints(Kind kind);
 
-// ---- Outlines ----
+// Outlines
 
 /// Closed outlines of `count` straight segments with the length 1 each: a position is the length up to it.
 const std::vector<OutlineInput>& StraightOutlines(std::size_t count);
@@ -185,7 +185,7 @@ const std::vector<OutlineInput>& StraightOutlines(std::size_t count);
 /// Closed outlines of `count` segments, every second an arc.
 const std::vector<OutlineInput>& CurvedOutlines(std::size_t count);
 
-// ---- Maps ----
+// Maps
 
 enum class MapKind
 {

@@ -46,7 +46,7 @@ void Count(const char* name, const std::vector<Input>& inputs, std::size_t count
     sink = sink + sum;
 }
 
-// ---- The two measures: plain code of this program, whose instructions change with the compiler alone ----
+// The two measures: plain code of this program, whose instructions change with the compiler alone
 
 /// For geometry: divisions, square roots and branches, without the C runtime.
 double CrossingByHand(const Two<Stretch, Circle>& in)
@@ -90,7 +90,7 @@ void CountMeasures()
     Count("measure of maps", MapPairs(1000, MapKind::Plain), 4, MergeByHand);
 }
 
-// ---- The cases ----
+// The cases
 
 void CountIntersections()
 {

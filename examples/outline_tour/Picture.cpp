@@ -92,7 +92,7 @@ private:
         std::string classes;
     };
 
-    // ---- What there is to draw, on the page ----
+    // What there is to draw, on the page
 
     DPOINT2 SourceOf(const CarriedPosition& carried) const
     {
@@ -114,7 +114,7 @@ private:
                      {frame.x - overhang, frame.y - overhang, frame.width + 2 * overhang, frame.height + 2 * overhang});
     }
 
-    // ---- Lines ----
+    // Lines
 
     void AvoidOutline(const CPolyline& outline, const View& view)
     {
@@ -232,7 +232,7 @@ private:
         m_page.Path(PathData({tip, wing(1), wing(-1)}, true), "tip");
     }
 
-    // ---- Marks and their labels ----
+    // Marks and their labels
 
     void DrawNodes(const CPolyline& outline, const View& view)
     {
@@ -326,7 +326,7 @@ private:
         }
     }
 
-    // ---- Words ----
+    // Words
 
     void DrawCaptions()
     {

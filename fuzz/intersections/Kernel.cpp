@@ -22,7 +22,7 @@ namespace fuzz
 namespace
 {
 
-// ---- Meetings of lines and circles ----
+// Meetings of lines and circles
 
 template <typename Expected, typename Function>
 bool Raises(const Function& function)
@@ -123,7 +123,7 @@ void CheckMeetings(Decoder& decoder)
     CheckMeeting(used, circle, circle);
 }
 
-// ---- Circles from points ----
+// Circles from points
 
 void CheckStatus(const gce_MakeCirc2d& made)
 {
@@ -167,7 +167,7 @@ void CheckCircles(Decoder& decoder)
     FUZZ_REQUIRE(SameBits(centre.x, made ? three.Value().Location().X() : -77.25));
 }
 
-// ---- Equations ----
+// Equations
 
 bool IsTame(double number)
 {

@@ -381,7 +381,7 @@ void CheckPointsLieOnCurves(int index, const Curve& x, const Curve& y, const Ans
     }
 }
 
-// ---- Quick tests and clear counts ----
+// Quick tests and clear counts
 
 /// On whole and half numbers the quick test of stretches is exact and the full test has no close call.
 bool IsOnGrid(const DPOINT2& point)

@@ -35,7 +35,7 @@ double Distance(const DPOINT2& a, const DPOINT2& b)
     return std::hypot(a.x - b.x, a.y - b.y);
 }
 
-// ---- Angles ----
+// Angles
 
 void CheckFold(double (*fold)(double), void (*inPlace)(double&), double angle, double modulus)
 {
@@ -134,7 +134,7 @@ void CheckIntegers(Decoder& decoder)
     FUZZ_REQUIRE(wideA != a || GetGreatestCommonDivisorInt64(a, b) == divisor);
 }
 
-// ---- Distances ----
+// Distances
 
 void CheckDistances(Decoder& decoder)
 {
@@ -171,7 +171,7 @@ void CheckDistances(Decoder& decoder)
     }
 }
 
-// ---- Predicates ----
+// Predicates
 
 void CheckPredicates(Decoder& decoder)
 {
@@ -204,7 +204,7 @@ void CheckPredicates(Decoder& decoder)
     IsPointInEllipseArc(point, a, size, other, rotation, start, extent);
 }
 
-// ---- Constructions ----
+// Constructions
 
 void CheckArc(Decoder& decoder)
 {

@@ -82,7 +82,7 @@ bool IsSmall(const CPolyPosMap& map)
     return IsModest(map) && map.SrcSegmentCount() <= 64 && map.DstSegmentCount() <= 64;
 }
 
-// ---- What is asked of a map ----
+// What is asked of a map
 
 void CheckModel(const CPolyPosMap& map, int side, bool normalize)
 {
@@ -180,7 +180,7 @@ void CheckSegments(const CPolyPosMap& map)
     FUZZ_REQUIRE(back.SrcSegmentCount() == static_cast<int>(segments.size()));
 }
 
-// ---- Changes of a map ----
+// Changes of a map
 
 void Invert(CPolyPosMap& map)
 {
@@ -371,7 +371,7 @@ void ReverseDirection(CPolyPosMap& map, int side)
     }
 }
 
-// ---- Two maps ----
+// Two maps
 
 CPolyPosMap Compose(const CPolyPosMap& a, const CPolyPosMap& b)
 {
@@ -449,7 +449,7 @@ CPolyPosMap Combine(int how, const CPolyPosMap& a, const CPolyPosMap& b)
     }
 }
 
-// ---- Builders ----
+// Builders
 
 /// A range that is cut segment by segment: its ends are kept small, or are beyond all integers.
 PosRangeD NextRange(Decoder& decoder)
@@ -712,7 +712,7 @@ CPolyPosMap Shorten(const CPolyPosMap& map, Decoder& decoder)
     return rest;
 }
 
-// ---- The stack ----
+// The stack
 
 using Stack = std::array<CPolyPosMap, 4>;
 

@@ -167,7 +167,7 @@ void CheckParts(double position)
     }
 }
 
-// ---- Algebra ----
+// Algebra
 
 /// In how many pieces a position lies. An end on the length by which wrapping ranges are unrolled is the seam.
 int CountCovering(const Ranges& pieces, double position, double unrolled)

@@ -138,7 +138,7 @@ bool IsTame(const CPolyline& polyline)
     return !polyline.nodes.empty();
 }
 
-// ---- Segments ----
+// Segments
 
 /// Runs what may raise the one exception that a direction of no length has, and tells whether it did not.
 template <typename Function>
@@ -375,7 +375,7 @@ void CheckSegment(const CSegment& segment, Decoder& decoder)
     }
 }
 
-// ---- Polylines ----
+// Polylines
 
 void AddNode(CPolyline& polyline, const DPOINT2& point, double bulge)
 {

@@ -263,7 +263,7 @@ QORMATH_EXPORT int Intersect_ArcWithArc(const DPOINT2& firstCentre, double first
                                         double secondStart, double secondSweep, std::vector<DPOINT2>& points,
                                         int maxPoints);
 
-// ---- Straight lines with ellipses ----
+// Straight lines with ellipses
 //
 // An ellipse is a centre, the semi-axis `a` along its own x axis, the semi-axis `b` across it and `rotation`, the
 // direction of its own x axis. An elliptical arc adds a start and a signed sweep: polar angles at the centre, counted
@@ -336,7 +336,7 @@ QORMATH_EXPORT int Intersect_LineWithEllipseArc(const DPOINT2& firstEnd, const D
                                                 double start, double sweep, std::vector<DPOINT2>& points,
                                                 int maxPoints);
 
-// ---- Ellipses with ellipses, circles and arcs ----
+// Ellipses with ellipses, circles and arcs
 //
 // These members have four outputs, and rules of their own for them:
 // - Pointer forms set every output that is given: (InvalidDouble, InvalidDouble) where there is no point. The
@@ -491,7 +491,7 @@ QORMATH_EXPORT int Intersect_ArcWithEllipseArc(const DPOINT2& arcCentre, double 
                                                double rotation, double ellipseStart, double ellipseSweep,
                                                std::vector<DPOINT2>& points, int maxPoints);
 
-// ---- Polynomial equations ----
+// Polynomial equations
 //
 // Real roots. Coefficients are given from the highest power down. The vector forms append and never clear.
 

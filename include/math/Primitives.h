@@ -45,7 +45,7 @@ inline constexpr double DoubleTolerance = 1e-9;
 /// Stands for "no value": a quiet NaN. Ask with std::isnan, never with a comparison.
 inline constexpr double InvalidDouble = std::numeric_limits<double>::quiet_NaN();
 
-// ---- Records ----
+// Records
 
 /// A point or a free vector in the plane. Its two doubles lie exactly as those of gp_XY and gp_Pnt2d.
 class DPOINT2
@@ -120,7 +120,7 @@ struct RealRectD
     QORMATH_EXPORT static RealRectD CreateRealRectD(const ArcD* arc);
 };
 
-// ---- Integers ----
+// Integers
 
 /// A common divisor of greatest size, by Euclid's algorithm on the signed values.
 ///
@@ -142,7 +142,7 @@ QORMATH_EXPORT void Reducify(int& numerator, int& denominator);
 /// Reducify on 64-bit integers.
 QORMATH_EXPORT void ReducifyInt64(std::int64_t& numerator, std::int64_t& denominator);
 
-// ---- Angles ----
+// Angles
 
 /// Radians to degrees.
 QORMATH_EXPORT double RadianToAngle(double radian);
@@ -235,7 +235,7 @@ QORMATH_EXPORT double D2GetNormalAngle(double x, double y);
 /// The same for a vector.
 QORMATH_EXPORT double D2GetNormalAngle(const DPOINT2& vector);
 
-// ---- Distances and projections ----
+// Distances and projections
 //
 // A line given by two points is unbounded for D2GetPointToLineDistance and D2GetProjectionPoint and a bounded stretch
 // for MinDistanceToLine. A beeline is an unbounded straight line given by a point and an angle; it has no direction
@@ -304,7 +304,7 @@ QORMATH_EXPORT DPOINT2 CoorTransXYToUV(const DPOINT2& point, const DPOINT2& orig
 /// The inverse of CoorTransXYToUV.
 QORMATH_EXPORT DPOINT2 CoorTransUVToXY(const DPOINT2& point, const DPOINT2& origin, double radian);
 
-// ---- Point-on-curve predicates ----
+// Point-on-curve predicates
 //
 // The word In means on the curve, not in its interior; the interior of an ellipse has IsPointInsideEllipse. All
 // predicates answer false where they cannot decide, as for a curve that does not exist. A NaN counts as inside for
@@ -395,7 +395,7 @@ QORMATH_EXPORT bool IsPointInEllipseArc(const DPOINT2& point, const DPOINT2& cen
 QORMATH_EXPORT bool IsPointInEllipseArc(const DPOINT2& point, const DPOINT2& centre, double a, double b,
                                         double rotation, double startRadian, double extent, bool ccw);
 
-// ---- Constructions on circles and ellipses ----
+// Constructions on circles and ellipses
 //
 // Ellipses are told as for the predicates. An angle on an ellipse is a polar angle in its own frame: the point lies on
 // the ray from the centre in that direction. It is not the eccentric parameter.

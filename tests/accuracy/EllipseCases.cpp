@@ -53,7 +53,7 @@ EllipseArc DrawEllipse(Draw& draw, double size, double flatness)
     return ellipse;
 }
 
-// ---- Straight lines with ellipses ----
+// Straight lines with ellipses
 
 struct LineSetting
 {
@@ -239,7 +239,7 @@ void MeasureTouchingLines(Run& run)
                 });
 }
 
-// ---- Two ellipses ----
+// Two ellipses
 
 struct PairSetting
 {

@@ -16,7 +16,7 @@ namespace
 
 constexpr double NotWritten = 1e300;
 
-// ---- Quadratic ----
+// Quadratic
 
 struct QuadraticSetting
 {
@@ -107,7 +107,7 @@ void MeasureNearlyLinear(Run& run)
                 });
 }
 
-// ---- Cubic ----
+// Cubic
 
 /// An accuracy that a root can have: the polynomial's value is only looked at to 1e-9, and to its own rounding.
 Real UnitOfRoot(const Polynomial& monic, const Real& root)

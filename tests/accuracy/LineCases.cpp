@@ -52,7 +52,7 @@ DPOINT2 Place(Draw& draw, const Setting& setting)
     return {draw.Signed(setting.offset + setting.size), draw.Signed(setting.offset + setting.size)};
 }
 
-// ---- Two straight lines ----
+// Two straight lines
 
 struct LineSetting
 {
@@ -199,7 +199,7 @@ void MeasureUpright(Run& run)
                 });
 }
 
-// ---- Straight lines with circles ----
+// Straight lines with circles
 
 struct LineAndCircle
 {
@@ -313,7 +313,7 @@ void MeasureLinesWithCircle(Run& run, const Setting& setting)
     });
 }
 
-// ---- Two circles ----
+// Two circles
 
 struct TwoCircles
 {
@@ -441,7 +441,7 @@ void MeasureTwoCircles(Run& run, const Setting& setting)
     });
 }
 
-// ---- Parameters, which only the kernel tells ----
+// Parameters, which only the kernel tells
 
 void MeasureParameters(Run& run, const Setting& setting)
 {

@@ -14,7 +14,7 @@ namespace
 
 constexpr const char* OfEnds = "u of the largest coordinate of the ends";
 
-// ---- Arcs and lines ----
+// Arcs and lines
 
 struct Setting
 {
@@ -349,7 +349,7 @@ void MeasureChords(Run& run)
     });
 }
 
-// ---- Bezier curves ----
+// Bezier curves
 
 struct Bezier
 {
@@ -500,7 +500,7 @@ void MeasureBezier(Run& run)
         });
 }
 
-// ---- Outlines ----
+// Outlines
 
 struct OutlineSetting
 {
@@ -605,7 +605,7 @@ void MeasureOutlines(Run& run, const OutlineSetting& setting)
     });
 }
 
-// ---- Boxes as records ----
+// Boxes as records
 
 void MeasureBoxes(Run& run)
 {

@@ -85,7 +85,7 @@ double LossOfBeeline(const DPOINT2& origin, double angle);
 /// The outputs that an intersection has told, of `most` that it has.
 std::vector<DPOINT2> FirstOf(int count, const DPOINT2* told, int most);
 
-// ---- Polynomials ----
+// Polynomials
 
 /// Coefficients from the constant upward.
 using Polynomial = std::vector<Real>;
@@ -99,7 +99,7 @@ std::vector<Real> RealRoots(const Polynomial& polynomial);
 /// The number of distinct real roots, by Sturm's theorem.
 int CountRealRoots(const Polynomial& polynomial);
 
-// ---- Curves ----
+// Curves
 
 /// A curve as the zeros of a function whose gradient does not vanish on it.
 class Curve

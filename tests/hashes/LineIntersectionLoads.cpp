@@ -77,7 +77,7 @@ LineD2D AsLine(const Stretch& stretch)
     return {stretch.a.x, stretch.a.y, stretch.b.x, stretch.b.y};
 }
 
-// ---- Equations ----
+// Equations
 
 struct Coefficients
 {

@@ -198,7 +198,7 @@ TEST(IntersectBeelineWithCircle, AnOutputMayBeAnInput)
     EXPECT_EQ(points, (std::vector<DPOINT2>{At(-3, 3), At(0, 0), At(4, 3), At(-4, 3)}));
 }
 
-// ---- The quick test ----
+// The quick test
 
 TEST(IntersectBeelineWithCircleQuick, ComparesTheDistanceOfTheCentreWithTheRadius)
 {

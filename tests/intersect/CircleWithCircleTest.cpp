@@ -141,7 +141,7 @@ TEST(IntersectCircleWithCircle, AnOutputMayBeAnInput)
     EXPECT_TRUE(Near(points[3], At(0.5, -height), 1e-15));
 }
 
-// ---- The quick test ----
+// The quick test
 
 namespace
 {

@@ -40,7 +40,7 @@ EllipseArc OnTilted(double start, double sweep)
 
 } // namespace
 
-// ---- Two ellipses ----
+// Two ellipses
 
 TEST(IntersectEllipseArcWithEllipseArc, APointHasToLieOnBothArcs)
 {
@@ -100,7 +100,7 @@ TEST(IntersectEllipseArcWithEllipseArc, OnSmallFiguresACrossingFoundTooCoarselyL
     EXPECT_TRUE(GivesFour(Meeting(EllipseArc{small, 0, 6.2}, EllipseArc{smallUpright, 0.1, 6.2}), 0, {}));
 }
 
-// ---- One ellipse ----
+// One ellipse
 
 TEST(IntersectEllipseArcWithEllipseArc, ArcsOfOneEllipseMeetInASharedEnd)
 {
@@ -179,7 +179,7 @@ TEST(IntersectEllipseArcWithEllipseArc, AWholeTurnOfTheEllipseIsNotRecognised)
     EXPECT_GE(OutputsOf(Meeting(OnTilted(1, 2), turned)).code, 0);
 }
 
-// ---- Input ----
+// Input
 
 TEST(IntersectEllipseArcWithEllipseArc, AnOutputOrTheVectorMayHoldTheInput)
 {

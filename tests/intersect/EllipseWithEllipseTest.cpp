@@ -87,7 +87,7 @@ bool IsAmong(const std::vector<DPOINT2>& found, const std::vector<DPOINT2>& cros
 
 } // namespace
 
-// ---- One and the same curve ----
+// One and the same curve
 
 TEST(IntersectEllipseWithEllipse, TheSameEllipseHasNoSinglePoint)
 {
@@ -159,7 +159,7 @@ TEST(IntersectEllipseWithEllipse, OneCircleIsRecognisedWhateverItsRotation)
     EXPECT_NE(OutputsOf(Meeting(Ellipse{{1, 2}, 3, 3, 0}, Ellipse{{1, 2 - 1.1e-9}, 3, 3, 1})).code, -1);
 }
 
-// ---- Rejected at once ----
+// Rejected at once
 
 TEST(IntersectEllipseWithEllipse, FiguresApartOrInsideEachOtherHaveNoPoint)
 {
@@ -206,7 +206,7 @@ TEST(IntersectEllipseWithEllipse, TheQuickTestsAreExact)
     EXPECT_EQ(code({{0, Stepped(1, -4)}, 1}, {{0, 0}, 2}), 0);
 }
 
-// ---- Points by hand ----
+// Points by hand
 
 TEST(IntersectEllipseWithEllipse, CrossedEllipsesMeetInFourPointsInTheOrderOfTheFirst)
 {
@@ -408,7 +408,7 @@ TEST(IntersectEllipseWithEllipse, NoTwoPointsCoincide)
     EXPECT_GT(several, 500);
 }
 
-// ---- Input ----
+// Input
 
 TEST(IntersectEllipseWithEllipse, AnOutputOrTheVectorMayHoldTheInput)
 {
@@ -491,7 +491,7 @@ TEST(IntersectEllipseWithEllipse, AgreesWithTheStepsWrittenOut)
     }
 }
 
-// ---- Against another method ----
+// Against another method
 
 TEST(IntersectEllipseWithEllipse, FindsTheZerosAlongTheFirst)
 {

@@ -157,7 +157,7 @@ TEST(PolylineExtendParam, IsDestroyedThroughThePolylinesVirtualDestructor)
     EXPECT_EQ(log.events, "-a");
 }
 
-// ---- Copying ----
+// Copying
 
 TEST(PolylineCopy, HasAllFieldsAndAnExtensionOfItsOwn)
 {

@@ -29,7 +29,7 @@ double WholeLength(const CPolyline& polyline)
 
 } // namespace
 
-// ---- Box ----
+// Box
 
 TEST(PolylineGetRECT, OfOneSegmentIsThatOfTheSegment)
 {
@@ -87,7 +87,7 @@ TEST(PolylineGetRECT, HoldsDenseSamplesAndTouchesThem)
     }
 }
 
-// ---- Length ----
+// Length
 
 TEST(PolylineGetLength, IsMeasuredAlongWholeAndPartialSegments)
 {
@@ -204,7 +204,7 @@ TEST(PolylineGetLength, IsTheSameBegunElsewhere)
     }
 }
 
-// ---- Area ----
+// Area
 
 TEST(PolylineGetArea, CounterclockwiseIsNegative)
 {

@@ -55,7 +55,7 @@ TEST(Polyline, FieldsFollowEachOtherInTheirOrder)
     EXPECT_TRUE(std::has_virtual_destructor_v<CPolyline>);
 }
 
-// ---- Adding nodes ----
+// Adding nodes
 
 TEST(PolylineAddNodes, StoresPointAndBulgeUnchanged)
 {
@@ -160,7 +160,7 @@ TEST(PolylineAddNodes, MayTakeANodeOfThePolylineItself)
     }
 }
 
-// ---- Closed ----
+// Closed
 
 TEST(PolylineIsClosed, TheLastPointMustBeTheStartExactly)
 {
@@ -196,7 +196,7 @@ TEST(PolylineIsClosed, ASingleNodeWrittenAtTheStartCloses)
     EXPECT_TRUE(polyline.IsClosed());
 }
 
-// ---- Segments ----
+// Segments
 
 TEST(PolylineGetSegment, RunsFromNodeToNode)
 {
@@ -232,7 +232,7 @@ TEST(PolylineGetSegment, BeyondTheLastThereIsNone)
     EXPECT_TRUE(IsLineOrArc(CPolyline().GetSegment(0), SegmentNone, At(0, 0), At(0, 0), 0));
 }
 
-// ---- Turning round ----
+// Turning round
 
 TEST(PolylineReverse, PointsAndBulgesChangePlacesOneStepApart)
 {

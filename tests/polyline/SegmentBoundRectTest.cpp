@@ -4,7 +4,7 @@
 using namespace math;
 using namespace math::test;
 
-// ---- By type ----
+// By type
 
 TEST(SegmentGetBoundRect, IsThatOfTheKind)
 {
@@ -37,7 +37,7 @@ TEST(SegmentGetBoundRect, TakesTheControlPolygonInItsOrder)
     EXPECT_TRUE(IsBox(arc.GetBoundRect(), ofArc.x, ofArc.y, ofArc.width, ofArc.height, 0));
 }
 
-// ---- Lines ----
+// Lines
 
 TEST(SegmentGetBoundRect, OfALineIsThatOfItsEnds)
 {
@@ -48,7 +48,7 @@ TEST(SegmentGetBoundRect, OfALineIsThatOfItsEnds)
     EXPECT_TRUE(IsBox(CSegment::GetBoundRectOfLine(At(1, 2), At(1, 2)), 1, 2, 0, 0, 0)) << "of no length";
 }
 
-// ---- Arcs ----
+// Arcs
 
 TEST(SegmentGetBoundRect, OfAnArcReachesTheAxisPointsOnItOnly)
 {
@@ -193,7 +193,7 @@ TEST(SegmentGetBoundRect, OfAnArcHoldsDenseSamplesAndTouchesThem)
     }
 }
 
-// ---- Bezier curves ----
+// Bezier curves
 
 TEST(SegmentGetBoundRect, OfABezierCurveIsThatOfItsPoints)
 {

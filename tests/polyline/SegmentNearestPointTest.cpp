@@ -69,7 +69,7 @@ const CSegment upperHalf(At(1, 0), At(-1, 0), 1);
 
 } // namespace
 
-// ---- Straight segments ----
+// Straight segments
 
 TEST(SegmentGetNearestPoint, ALineGivesTheFootOfThePerpendicular)
 {
@@ -154,7 +154,7 @@ TEST(SegmentGetNearestPoint, APointThatIsNoneGivesTheEndOfALineAndTheStartOfAnAr
     }
 }
 
-// ---- Arcs ----
+// Arcs
 
 TEST(SegmentGetNearestPoint, AHalfCircleGivesTheFootOfTheRadius)
 {

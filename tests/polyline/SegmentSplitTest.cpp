@@ -25,7 +25,7 @@ DPOINT2 OnUnitCircle(double radian)
 
 } // namespace
 
-// ---- One side of a cut ----
+// One side of a cut
 
 TEST(SegmentGetSplitSegment, ALineIsCutIntoLines)
 {
@@ -149,7 +149,7 @@ TEST(SegmentGetSplitSegment, SidesEvaluateAsTheWhole)
     }
 }
 
-// ---- The piece between two parameters ----
+// The piece between two parameters
 
 TEST(SegmentGetSplitSegment, APieceOfALineIsALine)
 {

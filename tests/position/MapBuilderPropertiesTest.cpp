@@ -116,7 +116,7 @@ bool IsNoMap(const CPolyPosMap& map)
 
 } // namespace
 
-// ---- Against a second implementation, bit for bit ----
+// Against a second implementation, bit for bit
 
 TEST(MapBuilders, CombiningTwoPolylinesAgreesWithASecondImplementation)
 {
@@ -225,7 +225,7 @@ TEST(MapBuilders, RemovalAgreesWithASecondImplementation)
     EXPECT_GT(made, 3000);
 }
 
-// ---- Positions carried by hand ----
+// Positions carried by hand
 
 namespace
 {

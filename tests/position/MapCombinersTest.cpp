@@ -41,7 +41,7 @@ const Pairs turnsBack = {{0, 0}, {2, 2}, {1, 3}};
 
 } // namespace
 
-// ---- Two polylines ----
+// Two polylines
 
 TEST(CombineTwoCad, EachPartIsPlacedInTheJoinedPolyline)
 {
@@ -72,7 +72,7 @@ TEST(CombineTwoCad, SinglesAreJoined)
     EXPECT_EQ(parts.second, Map({{0, 1}, {1, 2}}, 1, 2));
 }
 
-// ---- Sources joined on one destination ----
+// Sources joined on one destination
 
 TEST(CombineWithSameDestination, MapsThatGoOnMakeOne)
 {
@@ -229,7 +229,7 @@ TEST(CombineWithSameDestination, AMapWithoutJointsStandsForThePolylineItself)
     EXPECT_EQ(CombineDestination(NoMap(), NoMap()), Map({{0, 0}}, 0, 0));
 }
 
-// ---- Destinations joined from one source ----
+// Destinations joined from one source
 
 TEST(CombineWithSameSource, MapsThatGoOnMakeOne)
 {
@@ -271,7 +271,7 @@ TEST(CombineWithSameSource, IsTheMirrorImageOfJoiningSources)
     EXPECT_EQ(CombineSource(first, second), Map({{0, 0}, {1, 0}, {1, 2}, {2, 2}, {3.5, 3}}, 4, 4));
 }
 
-// ---- Both sides joined ----
+// Both sides joined
 
 TEST(CombineStandalone, TwoMapsThatMeetOnBothSidesMakeOne)
 {

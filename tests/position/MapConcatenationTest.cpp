@@ -43,7 +43,7 @@ TEST(MapConcatenation, TheOperandsStayAsTheyAre)
     EXPECT_EQ(later, Four({{0, 0}, {1, 1}}));
 }
 
-// ---- Over the seam, in the four combinations of directions ----
+// Over the seam, in the four combinations of directions
 
 TEST(MapConcatenation, OnUpwardColumnsTheLaterWalkIsLifted)
 {
@@ -93,7 +93,7 @@ TEST(MapConcatenation, EachColumnIsLiftedForItself)
               FiveToThree({{5, 5}, {4, 4}, {2, 3}, {1, 2}}));
 }
 
-// ---- Which values are compared ----
+// Which values are compared
 
 TEST(MapConcatenation, UpwardColumnsAreComparedByTheirLastValuesAlone)
 {
@@ -152,7 +152,7 @@ TEST(MapConcatenation, ASideOfOpenSizeIsLiftedByNothing)
     EXPECT_EQ(Map({{2, 0}}, 4, 0) + Map({{1, -1}}, 4, 0), Map({{2, 0}, {5, -1}}, 4, 0));
 }
 
-// ---- What does not fit ----
+// What does not fit
 
 TEST(MapConcatenation, MapsBetweenPolylinesOfOtherSizesDoNotFit)
 {
@@ -191,7 +191,7 @@ TEST(MapConcatenation, AnInvalidMapGivesNone)
     EXPECT_EQ(Four({}) + invalid, NoMap());
 }
 
-// ---- In place ----
+// In place
 
 TEST(MapConcatenationInPlace, ReplacesJointsAndCounts)
 {
@@ -226,7 +226,7 @@ TEST(MapConcatenationInPlace, AMapCanBeSetBehindItself)
     EXPECT_EQ(map, Four({{0, 1}, {2, 3}, {0, 1}, {2, 3}}));
 }
 
-// ---- Against a second implementation ----
+// Against a second implementation
 
 TEST(MapConcatenation, AgreesWithASecondImplementation)
 {

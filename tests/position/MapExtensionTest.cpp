@@ -56,7 +56,7 @@ const Pairs turnsBack = {{0, 0}, {2, 2}, {1, 3}};
 
 } // namespace
 
-// ---- One side grows ----
+// One side grows
 
 TEST(ExtendMap, AddedSourceCollapsesOntoWhereTheWalkEnds)
 {
@@ -140,7 +140,7 @@ TEST(ExtendMap, AMapWithoutJointsStandsAtZero)
     }
 }
 
-// ---- Neither side, both sides ----
+// Neither side, both sides
 
 TEST(ExtendMap, WithoutASideThatGrowsTheMapIsCopied)
 {
@@ -202,7 +202,7 @@ TEST(ExtendMap, AnInvalidMapGivesNone)
     }
 }
 
-// ---- Stretches of different sizes ----
+// Stretches of different sizes
 
 TEST(ExtendMapLinearly, TheAddedStretchesAnswerToOneAnother)
 {
@@ -242,7 +242,7 @@ TEST(ExtendMapLinearly, TheMapMustReachTheEnd)
     EXPECT_EQ(ExtendLinearly(Map(turnsBack, 4, 4), 1, 2, Back), NoMap());
 }
 
-// ---- Removal from the source ----
+// Removal from the source
 
 TEST(RemoveOpenRangeFromMap, TheWalkJumpsOverALostEndOfTheSource)
 {
@@ -273,7 +273,7 @@ TEST(RemoveOpenRangeFromMap, OfASourceThatIsLostWholeAJumpIsLeft)
     EXPECT_EQ(RemoveFromSource(four, {2, 2 + 5e-10}), Map({{0, 0}, {0, 4}}, 0, 4));
 }
 
-// ---- Removal from the destination ----
+// Removal from the destination
 
 TEST(RemoveOpenRangeFromMap, TheWalkStandsStillOverALostEndOfTheDestination)
 {
@@ -299,7 +299,7 @@ TEST(RemoveOpenRangeFromMap, OnADestinationThatIsLostWholeTheWalkStandsStill)
     EXPECT_EQ(RemoveFromDestination(twoToSix, {0, 6}), Map({{0, 0}, {2, 0}}, 2, 0));
 }
 
-// ---- What is not served ----
+// What is not served
 
 TEST(RemoveOpenRangeFromMap, AStretchFromTheMiddleLeavesTheMapAsItIs)
 {

@@ -3,7 +3,7 @@
 using namespace math;
 using namespace math::test;
 
-// ---- Two forward ranges: (2, 5) minus others ----
+// Two forward ranges: (2, 5) minus others
 
 TEST(RangeDifference, WhatLiesBeforeTakesNothing)
 {
@@ -90,7 +90,7 @@ TEST(RangeDifference, WhatIsCoveredWithinTheToleranceIsGone)
     EXPECT_EQ(Difference({0, 5}, {JustBelowTolerance, 6}), Nothing());
 }
 
-// ---- Whole ranges ----
+// Whole ranges
 
 TEST(RangeDifference, ALoopWithoutARangeIsTheRestOfTheLoop)
 {
@@ -130,7 +130,7 @@ TEST(RangeDifference, EndsAWholeToleranceApartMakeNoLoop)
     EXPECT_EQ(Difference({Tolerance, 0}, {2, 3}), Pieces({{Tolerance, 2}, {3, 4}}));
 }
 
-// ---- Two wrapping ranges ----
+// Two wrapping ranges
 
 TEST(RangeDifference, AWrappingRangeInsideAWrappingOneLeavesTheTwoEnds)
 {
@@ -172,7 +172,7 @@ TEST(RangeDifference, EndsOfUnrolledRangesComeBackByTheLengthTheyWereRaisedBy)
     EXPECT_EQ(Difference({3, 1.1}, {2.5, 0.1}), Pieces({{(0.1 + 4) - 4, (1.1 + 4) - 4}}));
 }
 
-// ---- A wrapping range minus a forward one ----
+// A wrapping range minus a forward one
 
 TEST(RangeDifference, AWrappingRangeIsBittenBeforeTheSeam)
 {
@@ -222,7 +222,7 @@ TEST(RangeDifference, PiecesOfAWrappingRangeAreFoldedBackWithTheirRounding)
     EXPECT_EQ(Difference({3.1, 0.3}, {2, 3.3}), Pieces({{3.3, (0.3 + 5) - 5}}));
 }
 
-// ---- A forward range minus a wrapping one ----
+// A forward range minus a wrapping one
 
 TEST(RangeDifference, AForwardRangeIsBittenByThePartPastTheSeam)
 {
@@ -260,7 +260,7 @@ TEST(RangeDifference, AForwardRangeInTheGapOfAWrappingOneStays)
     EXPECT_EQ(Difference({0, 2}, {3, 0}), Pieces({{0, 2}}));
 }
 
-// ---- Invalid ranges: not tested for, whatever is neither whole nor forward is unrolled ----
+// Invalid ranges: not tested for, whatever is neither whole nor forward is unrolled
 
 TEST(RangeDifference, InvalidRangesGoTheWayOfTheirNumbers)
 {

@@ -3,7 +3,7 @@
 using namespace math;
 using namespace math::test;
 
-// ---- Two forward ranges: (2, 5) and others ----
+// Two forward ranges: (2, 5) and others
 
 TEST(RangeIntersection, RangesApartHaveNothingInCommon)
 {
@@ -75,7 +75,7 @@ TEST(RangeIntersection, StartsAreComparedWithoutTolerance)
     EXPECT_EQ(Intersection({2, 5}, {2, 7}), Pieces({{2, 5}}));
 }
 
-// ---- Invalid and whole ranges ----
+// Invalid and whole ranges
 
 TEST(RangeIntersection, AnInvalidRangeMeetsNothing)
 {
@@ -114,7 +114,7 @@ TEST(RangeIntersection, EndsAWholeToleranceApartMakeNoLoop)
     EXPECT_EQ(Intersection({2, 3}, {0, JustBelowTolerance}), Pieces({{2, 3}}));
 }
 
-// ---- A forward and a wrapping range, in either order ----
+// A forward and a wrapping range, in either order
 
 namespace
 {
@@ -164,7 +164,7 @@ TEST(RangeIntersection, AWrappingRangeThatEndsOnTheSeamHasNoPartPastIt)
     ExpectIntersectionEitherWay({0, 4}, {3, 5e-10}, Pieces({{3, 4}}));
 }
 
-// ---- Two wrapping ranges ----
+// Two wrapping ranges
 
 TEST(RangeIntersection, TwoWrappingRangesShareTheStretchOverTheSeam)
 {

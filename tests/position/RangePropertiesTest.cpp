@@ -114,7 +114,7 @@ PosRangeD CrowdedRange(Random& random)
 
 } // namespace
 
-// ---- Against a second implementation, bit for bit ----
+// Against a second implementation, bit for bit
 
 TEST(RangeAlgebra, AgreesWithASecondImplementationOnRandomRanges)
 {
@@ -150,7 +150,7 @@ TEST(RangeAlgebra, AgreesWithASecondImplementationOnDegenerateEnds)
         {-Infinite, -3.0, -2.0, -2.0 + 2e-10, -2.0 + 5e-10, -1.0, -2e-9, -1e-9, -0.0, 0.0, 1.0, 2.0, Infinite, NaN});
 }
 
-// ---- What the results cover ----
+// What the results cover
 
 namespace
 {
@@ -260,7 +260,7 @@ TEST(RangeAlgebra, RandomRangesCoverWhatTheyShould)
     }
 }
 
-// ---- The seam moved, the walk reversed ----
+// The seam moved, the walk reversed
 
 namespace
 {

@@ -3,7 +3,7 @@
 using namespace math;
 using namespace math::test;
 
-// ---- Two forward ranges: (2, 5) and others ----
+// Two forward ranges: (2, 5) and others
 
 TEST(RangeUnion, RangesApartStayTwoInTheOrderOfTheOperands)
 {
@@ -76,7 +76,7 @@ TEST(RangeUnion, EqualRangesAreOne)
     EXPECT_EQ(Union({3, 1}, {3, 1}), Pieces({{3, 1}}));
 }
 
-// ---- Invalid and whole ranges ----
+// Invalid and whole ranges
 
 TEST(RangeUnion, AnInvalidRangeAddsNothing)
 {
@@ -117,7 +117,7 @@ TEST(RangeUnion, EndsAWholeToleranceApartMakeNoLoop)
     EXPECT_EQ(Union({-1e-9, 3}, PosRangeD()), Pieces({{-1e-9, 3}}));
 }
 
-// ---- A forward and a wrapping range, in either order ----
+// A forward and a wrapping range, in either order
 
 namespace
 {
@@ -191,7 +191,7 @@ TEST(RangeUnion, TheEndOfAMergedRangeComesBackByTheLengthItWasRaisedBy)
     ExpectUnionEitherWay({2.9, 4.1}, {3, 0.7}, Pieces({{2.9, (0.7 + 6) - 6}}));
 }
 
-// ---- Two wrapping ranges ----
+// Two wrapping ranges
 
 TEST(RangeUnion, TwoWrappingRangesMerge)
 {

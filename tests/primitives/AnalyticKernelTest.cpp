@@ -60,7 +60,7 @@ public:
 
 } // namespace
 
-// ---- The record of one point ----
+// The record of one point
 
 TEST(IntersectionPoint, StartsWithTheGreatestNumbers)
 {
@@ -148,7 +148,7 @@ TEST(IntersectionPoint, HasItsFieldsInOrderBehindTheTableOfFunctions)
     EXPECT_EQ(numbers[3], 2.0);
 }
 
-// ---- The record of an intersection ----
+// The record of an intersection
 
 TEST(AnalyticIntersection, IsNotDoneAtFirst)
 {
@@ -280,7 +280,7 @@ TEST(AnalyticIntersection, HasItsFieldsInOrder)
     EXPECT_EQ(fields(IntAna2d_AnaIntersection(Line(0, 0, 1, 0), Circle(0, 0, 1))), "TFFF2");
 }
 
-// ---- Two lines ----
+// Two lines
 
 TEST(IntersectionOfLines, IsTheirCommonPointWithItsDistanceAlongEach)
 {
@@ -458,7 +458,7 @@ TEST(IntersectionOfLines, LiesOnBothAtItsParameters)
     }
 }
 
-// ---- Line and circle ----
+// Line and circle
 
 TEST(IntersectionOfLineAndCircle, StartsWithThePointAhead)
 {

@@ -82,7 +82,7 @@ Circle Through(const DPOINT2& p1, const DPOINT2& p2, const DPOINT2& p3)
 
 } // namespace
 
-// ---- From bulge form to centre form ----
+// From bulge form to centre form
 
 TEST(SolvedArc, OfAHalfCircleStartsAtExactlyZero)
 {
@@ -285,7 +285,7 @@ TEST(SolvedArc, OfNaNRaisesNothing)
     EXPECT_NO_THROW(Solved(At(0, 0), At(1, 1), Infinity));
 }
 
-// ---- Circles through three points ----
+// Circles through three points
 
 TEST(CircleThroughThreePoints, HasThemAllAtItsRadius)
 {

@@ -52,7 +52,7 @@ TangentPoints PlainTangentPoints(double radian)
 
 } // namespace
 
-// ---- Points at an angle ----
+// Points at an angle
 
 TEST(PointInCircle, LiesInTheGivenDirection)
 {
@@ -149,7 +149,7 @@ TEST(PointInEllipse, FollowsThePolarEquation)
     }
 }
 
-// ---- Height of an arc ----
+// Height of an arc
 
 TEST(HeightOfEllipseArc, IsTheDistanceFromTheChordToTheTangentAlongIt)
 {
@@ -282,7 +282,7 @@ TEST(HeightOfEllipseArc, IsTheGreatestDistanceOfManyOfItsPoints)
     }
 }
 
-// ---- Tangents ----
+// Tangents
 
 TEST(TangentOfEllipse, RunsAcrossTheAxisAtAVertex)
 {

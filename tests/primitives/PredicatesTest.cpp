@@ -49,7 +49,7 @@ std::string PlaceAgainstTurnedEllipse(const DPOINT2& point)
 
 } // namespace
 
-// ---- Stretches ----
+// Stretches
 
 TEST(PointInLine, LiesOnTheBoundedStretch)
 {
@@ -234,7 +234,7 @@ TEST(FootInLine, OfANaNLiesBeyondNeitherEnd)
     EXPECT_TRUE(IsPointProjInLine(At(0.5, 0), At(0, 0), At(InvalidDouble, 0)));
 }
 
-// ---- Arcs by angles ----
+// Arcs by angles
 
 TEST(PointInArc, LiesOnTheArcThatRunsTheGivenWay)
 {
@@ -439,7 +439,7 @@ TEST(PointInArc, IsEveryPointBetweenTheEndsAndNoneOutside)
     }
 }
 
-// ---- Arcs by points ----
+// Arcs by points
 
 TEST(PointInArcByPoints, MayLieOnTheShortOrTheLongWayRound)
 {
@@ -535,7 +535,7 @@ TEST(PointInArcByPoints, IsNeverNaN)
     EXPECT_FALSE(IsPointInArc(At(1, 0), At(0, 0), At(1, 0), At(0, InvalidDouble), true));
 }
 
-// ---- Sectors ----
+// Sectors
 
 TEST(AngleInSector, CounterClockwiseIsExactAtBothEnds)
 {
@@ -614,7 +614,7 @@ TEST(AngleInSector, IsNeverNaN)
     }
 }
 
-// ---- Ellipses ----
+// Ellipses
 
 TEST(PointAgainstAnEllipse, IsOnItInsideOrOutside)
 {
@@ -696,7 +696,7 @@ TEST(PointAgainstAnEllipse, FollowsItsRadialPosition)
     }
 }
 
-// ---- Elliptical arcs ----
+// Elliptical arcs
 
 TEST(PointInEllipseArc, CountsItsAnglesFromTheEllipsesOwnAxis)
 {

@@ -131,7 +131,7 @@ bool PassesFar(const TwoEllipses& pair)
 
 } // namespace
 
-// ---- Straight lines ----
+// Straight lines
 
 TEST(EllipseIntersectionLaws, I15_PointsOfAStraightLineAndAnEllipseLieOnBoth)
 {
@@ -250,7 +250,7 @@ TEST(EllipseIntersectionLaws, I19_OnStretchesAndEllipticalArcsThePointsOfTheWhol
     EXPECT_GT(kept, 500);
 }
 
-// ---- Two ellipses ----
+// Two ellipses
 
 TEST(EllipseIntersectionLaws, I20_PointsOfTwoEllipsesLieOnBoth)
 {

@@ -25,7 +25,7 @@ constexpr double Unit = 0x1p-53; // the relative size of one rounding
 // Coordinates stay below 8, and the sines of crossing angles above 1/5.
 constexpr double Rounding = 16 * Unit * 8 * 5;
 
-// ---- The grid ----
+// The grid
 
 std::vector<DPOINT2> Lattice(int last)
 {
@@ -155,7 +155,7 @@ std::vector<OctantArc> GridArcs()
     return chosen;
 }
 
-// ---- Distance from a curve ----
+// Distance from a curve
 
 double DistanceFrom(const Stretch& stretch, const DPOINT2& point)
 {
@@ -193,7 +193,7 @@ template <class First, class Second>
     return ::testing::AssertionSuccess();
 }
 
-// ---- Exact arithmetic on whole numbers ----
+// Exact arithmetic on whole numbers
 
 bool HoldsPoint(const Stretch& stretch, const DPOINT2& point)
 {
@@ -367,7 +367,7 @@ std::vector<Arc> ToArcs(const std::vector<OctantArc>& octants)
 
 } // namespace
 
-// ---- What exact arithmetic tells ----
+// What exact arithmetic tells
 
 TEST(IntersectionLaws, I1_TwoStretchesMeetAsExactArithmeticTellsExceptForThoseOfNoLength)
 {
@@ -491,7 +491,7 @@ TEST(IntersectionLaws, I6_OnStretchesAndArcsTheCommonPointsOfWholeCurvesRemain)
     });
 }
 
-// ---- Points, orders, motions ----
+// Points, orders, motions
 
 TEST(IntersectionLaws, I7_TheirPointsLieOnBothCurves)
 {
@@ -656,7 +656,7 @@ TEST(IntersectionLaws, I11_MovingTurningAndMirroringBothCurvesMovesTheAnswer)
     }
 }
 
-// ---- Forms and counts ----
+// Forms and counts
 
 TEST(IntersectionLaws, I12_PointerAndVectorFormsAgreeExceptWhereACircleCarriesAnArc)
 {

@@ -116,7 +116,7 @@ std::vector<double> Raised(std::vector<double> positions, double by)
 
 } // namespace
 
-// ---- Generators, on real outlines ----
+// Generators, on real outlines
 
 TEST(MapBuilderLaws, M27_AWholeOutlineIsMappedOntoItselfAndOntoItselfTurnedRound)
 {
@@ -287,7 +287,7 @@ TEST(MapBuilderLaws, M33_ACollapsedStretchHasOneImage)
     }
 }
 
-// ---- Combiners ----
+// Combiners
 
 namespace
 {
@@ -385,7 +385,7 @@ TEST(MapBuilderLaws, M35_MapsJoinedOnBothSidesKeepTheImagesOfBothParts)
     EXPECT_GT(made, 100);
 }
 
-// ---- Extension and removal ----
+// Extension and removal
 
 TEST(MapBuilderLaws, M36_SegmentsAddedToTheSourceCollapseAndTheOthersKeepTheirImages)
 {

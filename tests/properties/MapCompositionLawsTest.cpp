@@ -161,7 +161,7 @@ std::vector<Landing> LandingsOf(const CPolyPosMap& map)
     return landings;
 }
 
-// ---- The exceptions of composition ----
+// The exceptions of composition
 
 /// A stretch collapses onto a place where the second map jumps.
 bool IsFlatIntoJump(const CPolyPosMap& a, const CPolyPosMap& b)
@@ -229,7 +229,7 @@ bool IsFlatOntoAnEndOverTheSeam(const CPolyPosMap& a, const CPolyPosMap& b)
 
 } // namespace
 
-// ---- Composition ----
+// Composition
 
 TEST(MapCompositionLaws, M14_TheIdentityIsNeutral)
 {
@@ -414,7 +414,7 @@ TEST(MapCompositionLaws, M18_TheInverseOfACompositionIsTheCompositionOfInversesU
     EXPECT_EQ(oneCrosses, 144);
 }
 
-// ---- Concatenation ----
+// Concatenation
 
 TEST(MapCompositionLaws, M19_AMapCutAtAJointIsPutTogetherAgain)
 {
@@ -463,7 +463,7 @@ TEST(MapCompositionLaws, M20_ConcatenationIsAssociativeOnPiecesOfOneWalkThatGoes
     }
 }
 
-// ---- The start moved, the outline turned round ----
+// The start moved, the outline turned round
 
 namespace
 {
@@ -651,7 +651,7 @@ TEST(MapCompositionLaws, M39_OnWhichLapAnOperandIsToldMakesNoDifferenceToACompos
     });
 }
 
-// ---- Random maps ----
+// Random maps
 
 namespace
 {

@@ -107,7 +107,7 @@ bool Holds(const std::vector<double>& values, double value)
 
 } // namespace
 
-// ---- Normal form ----
+// Normal form
 
 TEST(MapEvaluationLaws, M1_NormalizeReachesNormalFormExceptFromBelowZeroAndOnOppositeColumns)
 {
@@ -155,7 +155,7 @@ TEST(MapEvaluationLaws, M2_NormalizeShiftsByWholeLaps)
     });
 }
 
-// ---- Turned over, turned about ----
+// Turned over, turned about
 
 TEST(MapEvaluationLaws, M3_TheInverseCarriesEachImageBackExceptInsideJumpsAndFlats)
 {
@@ -201,7 +201,7 @@ TEST(MapEvaluationLaws, M4_TheOrderOfTheWalkDoesNotChangeImages)
     });
 }
 
-// ---- Evaluation ----
+// Evaluation
 
 TEST(MapEvaluationLaws, M5_EvaluationIsWhatTheListSaysOnTheLapOfTheMap)
 {
@@ -286,7 +286,7 @@ TEST(MapEvaluationLaws, M8_APositionIsOverTheRangeExactlyIfItHasNoImage)
     });
 }
 
-// ---- Joints taken out and put in ----
+// Joints taken out and put in
 
 TEST(MapEvaluationLaws, M9_DroppingNeedlessJointsTwiceIsDroppingThemOnce)
 {

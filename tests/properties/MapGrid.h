@@ -75,7 +75,7 @@ inline std::vector<CPolyPosMap> AllMapsUpTo(std::size_t mostJoints, int sourceCo
     return maps;
 }
 
-// ---- What a map looks like ----
+// What a map looks like
 
 inline double Lowest(const CPolyPosMap& map, int side)
 {
@@ -141,7 +141,7 @@ inline bool IsOneToOne(const CPolyPosMap& map)
     return !HasJump(map) && !HasFlat(map);
 }
 
-// ---- Carried by hand ----
+// Carried by hand
 
 inline bool LiesBetween(double value, double a, double b)
 {

@@ -139,7 +139,7 @@ gp_Circ2d CircleAt(const DPOINT2& centre, double radius)
 
 } // namespace
 
-// ---- Distances ----
+// Distances
 
 TEST(DistanceLaws, A12_DistanceIsAMetricAndMovesAlong)
 {
@@ -263,7 +263,7 @@ TEST(DistanceLaws, A16_AFrameThereAndBackIsTheIdentityAndKeepsDistances)
     }
 }
 
-// ---- Arcs and circles ----
+// Arcs and circles
 
 TEST(ArcLaws, A17_AnArcGoesFromBulgeToCentreFormAndBack)
 {
@@ -370,7 +370,7 @@ TEST(ArcLaws, A19_ThreePointsMakeACircleThroughThemExceptOnOneLine)
     }
 }
 
-// ---- Predicates ----
+// Predicates
 
 TEST(PredicateLaws, A20_TheEndsOfACurveLieOnItExceptOnAStretchOfNoLength)
 {
@@ -501,7 +501,7 @@ TEST(PredicateLaws, A23_APointIsOnAnEllipseOrInsideOrOutsideAndOnlyOne)
     }
 }
 
-// ---- Ellipses ----
+// Ellipses
 
 TEST(EllipseLaws, A24_TheTangentsOfADirectionTouchInTwoOppositePointsOfTheEllipse)
 {
@@ -657,7 +657,7 @@ TEST(EllipseLaws, A28_TheOwnAxesFollowAScaleAlongThem)
     }
 }
 
-// ---- Records and integers ----
+// Records and integers
 
 TEST(RecordLaws, A29_TheUnionOfBoxesIsTheLeastBoxThatHoldsBoth)
 {
@@ -721,7 +721,7 @@ TEST(RecordLaws, A30_AReducedFractionHasTheSameValueInLeastTermsExceptWithAZero)
     EXPECT_EQ(withZero, 49 + 48);
 }
 
-// ---- The exact kernel ----
+// The exact kernel
 
 TEST(KernelLaws, A31_TheParametersOfAPointLeadToItOnEitherCurve)
 {

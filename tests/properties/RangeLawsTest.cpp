@@ -205,7 +205,7 @@ std::vector<PosRangeD> Product(const std::vector<PosRangeD>& pieces, const PosRa
 
 } // namespace
 
-// ---- One range ----
+// One range
 
 TEST(RangeLaws, R1_ARangeIsInExactlyOneState)
 {
@@ -304,7 +304,7 @@ TEST(RangeLaws, R6_LessIsAStrictWeakOrderExceptAmongInvalidRanges)
     });
 }
 
-// ---- Two ranges ----
+// Two ranges
 
 TEST(RangeLaws, R7_ARangeContainsAnotherThatItCoversExceptRoundTheOtherWay)
 {
@@ -480,7 +480,7 @@ TEST(RangeLaws, R18_ARangeWithItselfAndWithTheWholeAndWithNone)
     }
 }
 
-// ---- The start moved, the outline turned round ----
+// The start moved, the outline turned round
 
 namespace
 {
@@ -588,7 +588,7 @@ TEST(RangeLaws, R21_TheProductIsAssociativeWhereNoTwoMeetTwice)
     }
 }
 
-// ---- Random ranges ----
+// Random ranges
 
 TEST(RangeLaws, R22_TheLawsOfDifferenceProductAndUnionHoldBetweenTheQuartersToo)
 {

@@ -64,7 +64,7 @@ struct BothForms
     bool firstOutputIsOptional = true;
 };
 
-// ---- The members ----
+// The members
 
 inline BothForms Meeting(const Beeline& a, const Beeline& b)
 {
@@ -183,7 +183,7 @@ inline BothForms Meeting(const Arc& a, const Arc& b)
             TrailingInt::MaxPoints};
 }
 
-// ---- Running them ----
+// Running them
 
 namespace inner
 {
@@ -293,7 +293,7 @@ inline ::testing::AssertionResult QuickTestGives(const BothForms& forms, int cod
     return inner::SameResult("quick test", result, code, found, {Untouched()}, 0.0);
 }
 
-// ---- A second way to the same answers ----
+// A second way to the same answers
 
 inline double CrossOf(const DPOINT2& a, const DPOINT2& b)
 {
@@ -410,7 +410,7 @@ inline std::vector<DPOINT2> KeepOnArc(const std::vector<DPOINT2>& points, const 
     return kept;
 }
 
-// ---- Random curves ----
+// Random curves
 
 inline Arc RandomArc(Random& random)
 {

@@ -53,7 +53,7 @@ inline Ellipse AsEllipse(const Circle& circle)
     return {circle.centre, circle.radius, circle.radius, 0.0};
 }
 
-// ---- Points on ellipses, from their equation in long double ----
+// Points on ellipses, from their equation in long double
 
 /// A point given in the frame of an ellipse.
 inline DPOINT2 OutOfFrame(const Ellipse& ellipse, long double u, long double v)
@@ -138,7 +138,7 @@ inline std::vector<DPOINT2> KeepOnArc(const std::vector<DPOINT2>& points, const 
     return kept;
 }
 
-// ---- A second way to common points ----
+// A second way to common points
 
 /// Zeros of a function of period 2π by sampling and halving; clear when no sample lies near zero where the function
 /// turns.
@@ -275,7 +275,7 @@ inline ::testing::AssertionResult SameSet(const std::vector<DPOINT2>& found, std
                                          << ::testing::PrintToString(all);
 }
 
-// ---- Members with two outputs ----
+// Members with two outputs
 
 inline BothForms Meeting(const Beeline& a, const EllipseArc& b)
 {
@@ -314,7 +314,7 @@ inline BothForms Meeting(const Stretch& a, const EllipseArc& b)
             TrailingInt::MaxPoints};
 }
 
-// ---- Members with four outputs ----
+// Members with four outputs
 
 struct FourForms
 {
@@ -506,7 +506,7 @@ inline ::testing::AssertionResult IsExactly(const FourResult& found, int code, s
     return inner::SameResult("outputs", found.code, code, found.outputs, points, 0);
 }
 
-// ---- Random ellipses ----
+// Random ellipses
 
 /// Semi-axes of one size, in any order, the centre within `spread` sizes of the origin.
 inline Ellipse RandomEllipse(Random& random, double size = 1.0, double spread = 1.0)

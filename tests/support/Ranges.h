@@ -71,7 +71,7 @@ inline RangeList Intersection(const PosRangeD& a, const PosRangeD& b)
     return {a * b};
 }
 
-// ---- Numbers on either side of the tolerance ----
+// Numbers on either side of the tolerance
 
 /// The number furthest from `value` in the direction of `towards` that is still near it.
 inline double LastNear(double value, double towards)

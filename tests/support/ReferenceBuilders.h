@@ -92,7 +92,7 @@ inline RefMap Concatenate(const RefMap& a, const RefMap& b)
     return {la, a.sourceCount, a.destinationCount};
 }
 
-// ---- The pieces that are composed ----
+// The pieces that are composed
 
 /// From the stretch of a polyline to the polyline.
 inline RefMap Piece(double s, double e, int count)
@@ -148,7 +148,7 @@ inline RefMap WholeMap(int count)
     return Tidied(map);
 }
 
-// ---- Combiners ----
+// Combiners
 
 inline std::pair<RefMap, RefMap> CombineTwoCad(int firstCount, int secondCount)
 {
@@ -222,7 +222,7 @@ inline RefMap CombineStandalone(const RefMap& a, const RefMap& b)
     return Tidied(Concatenate(x, y));
 }
 
-// ---- Extension and removal ----
+// Extension and removal
 
 inline RefMap Extend(const RefMap& map, int n, bool atFront, bool extendSource, bool extendDestination)
 {

@@ -38,7 +38,7 @@ inline bool Zero(double value)
     return std::abs(value) < 1e-9;
 }
 
-// ---- Straight lines ----
+// Straight lines
 
 inline int BeelineWithEllipse(const DPOINT2& p, double angle, const Ellipse& e, DPOINT2* first, DPOINT2* second)
 {
@@ -142,7 +142,7 @@ inline int BeelineWithEllipseArc(const DPOINT2& p, double angle, const EllipseAr
     return 1;
 }
 
-// ---- Quarter arcs ----
+// Quarter arcs
 
 /// What becomes of a search that would never end.
 enum class Unending
@@ -512,7 +512,7 @@ private:
     bool m_metUnending = false;
 };
 
-// ---- Elliptical arcs ----
+// Elliptical arcs
 
 /// The result for an ellipse and an elliptical arc of at most four points of the whole ellipses.
 inline int KeepOnArc(int found, const std::vector<DPOINT2>& points, const EllipseArc& arc, std::vector<DPOINT2>& kept)

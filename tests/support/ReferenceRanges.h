@@ -68,7 +68,7 @@ inline Ranges FoldBack(const Ranges& list, double length)
     return folded;
 }
 
-// ---- Forward ranges ----
+// Forward ranges
 
 inline Ranges ForwardDifference(const Range& a, const Range& b)
 {
@@ -169,7 +169,7 @@ inline Ranges ForwardIntersection(const Range& a, const Range& b)
     return {{s1, e2}};
 }
 
-// ---- All ranges ----
+// All ranges
 
 inline Ranges Split(const Range& range, double position)
 {

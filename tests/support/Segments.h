@@ -16,7 +16,7 @@
 namespace math::test
 {
 
-// ---- A second way to evaluate ----
+// A second way to evaluate
 
 inline DPOINT2 Between(const DPOINT2& a, const DPOINT2& b, double t)
 {
@@ -64,7 +64,7 @@ inline DPOINT2 ArcAt(const DPOINT2& start, const DPOINT2& end, double bulge, dou
     return TurnedAbout(CentreOfArc(start, end, bulge), start, 4 * std::atan(bulge) * t);
 }
 
-// ---- Segments ----
+// Segments
 
 /// An arc from its angles: from `from` over the signed sweep, which lies strictly between -2π and 2π.
 inline CSegment ArcOfAngles(const DPOINT2& centre, double radius, double from, double sweep)
@@ -137,7 +137,7 @@ inline bool SameFields(const CSegment& a, const CSegment& b)
            SameBits(a.ctrl2, b.ctrl2);
 }
 
-// ---- Boxes ----
+// Boxes
 
 inline ::testing::AssertionResult IsBox(const DRECT& box, double x, double y, double width, double height,
                                         double tolerance)

@@ -70,7 +70,7 @@ inline double UntouchedNumber()
     return -4321.625;
 }
 
-// ---- Neighbouring numbers ----
+// Neighbouring numbers
 
 inline double Next(double value)
 {
@@ -111,7 +111,7 @@ inline bool SameBits(const DPOINT2& a, const DPOINT2& b)
     return SameBits(a.x, b.x) && SameBits(a.y, b.y);
 }
 
-// ---- Nearness, for EXPECT_TRUE ----
+// Nearness, for EXPECT_TRUE
 
 inline std::string Digits(double value)
 {
@@ -154,7 +154,7 @@ inline ::testing::AssertionResult NearDirection(double radian, double expected, 
                                          << Digits(expected) << " modulo " << Digits(period);
 }
 
-// ---- Random input ----
+// Random input
 
 /// Numbers that depend on the seed alone, the same with every standard library.
 class Random
