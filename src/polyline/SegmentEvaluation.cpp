@@ -1,8 +1,10 @@
 #include "math/CSegment.h"
 
 #include "polyline/ArcForm.h"
+#include "polyline/ArcLength.h"
 #include "polyline/CubicForm.h"
 #include "polyline/CubicLength.h"
+#include "primitives/Distance.h"
 #include "primitives/RequireChecks.h"
 #include "primitives/Tolerance.h"
 
@@ -33,17 +35,6 @@ DPOINT2 UnitVector(double x, double y)
     gp_XY vector(x, y);
     vector.Normalize();
     return {vector.X(), vector.Y()};
-}
-
-/// Radius times sweep, both from the chord.
-double LengthOfArc(double chord, double bulge)
-{
-    const double extent = 4.0 * std::abs(std::atan(bulge));
-    if (IsZero(extent))
-    {
-        return chord;
-    }
-    return chord * 0.5 / std::sin(extent * 0.5) * extent;
 }
 
 } // namespace
@@ -156,9 +147,9 @@ double CSegment::GetLength() const
     switch (type)
     {
     case SegmentLine:
-        return D2GetDistance(start, end);
+        return detail::Distance(start, end);
     case SegmentArc:
-        return LengthOfArc(D2GetDistance(start, end), bulge);
+        return detail::LengthOfArc(detail::Distance(start, end), bulge);
     case SegmentBezier:
         return detail::LengthOfCubic(CubicForm(start, ctrl1, ctrl2, end));
     default:

@@ -56,9 +56,9 @@ double DirectionOfCubic(const CubicForm& curve, double t)
     return derivative.y >= 0.0 ? included : TwoPi - included;
 }
 
-void Extend(DRECT& box, const DPOINT2& point)
+DRECT BoxOfPoint(const DPOINT2& point)
 {
-    box = detail::UnionOf(box, {point.x, point.y, 0.0, 0.0});
+    return {point.x, point.y, 0.0, 0.0};
 }
 
 /// Tells whether an arc reaches a direction. An arc may run on past 2π or below 0, by less than a turn.
@@ -126,13 +126,12 @@ DRECT CSegment::GetBoundRect() const
 
 DRECT CSegment::GetBoundRectOfLine(const DPOINT2& startPoint, const DPOINT2& endPoint)
 {
-    return {std::min(startPoint.x, endPoint.x), std::min(startPoint.y, endPoint.y), std::abs(startPoint.x - endPoint.x),
-            std::abs(startPoint.y - endPoint.y)};
+    return detail::BoxOfEnds(startPoint, endPoint);
 }
 
 DRECT CSegment::GetBoundRectOfArc(const DPOINT2& startPoint, const DPOINT2& endPoint, double arcBulge)
 {
-    DRECT box = GetBoundRectOfLine(startPoint, endPoint);
+    DRECT box = detail::BoxOfEnds(startPoint, endPoint);
     if (CoincideByCoordinates(startPoint, endPoint) || IsZero(arcBulge))
     {
         return box;
@@ -145,7 +144,7 @@ DRECT CSegment::GetBoundRectOfArc(const DPOINT2& startPoint, const DPOINT2& endP
     {
         if (Reaches(arc, quarter * HalfPi))
         {
-            Extend(box, axisPoints[static_cast<std::size_t>(quarter)]);
+            box = detail::UnionOf(box, BoxOfPoint(axisPoints[static_cast<std::size_t>(quarter)]));
         }
     }
     return box;
@@ -157,7 +156,7 @@ DRECT CSegment::GetBoundRectOfBezier(const DPOINT2& startPoint, const DPOINT2& f
     // Just above 1: the steps add up with rounding, and the sample at 1 is not to be lost.
     constexpr std::size_t sampleCount = detail::FirstSampleFrom(1.0000000001);
     const CubicForm curve(startPoint, firstControl, secondControl, endPoint);
-    DRECT box = {startPoint.x, startPoint.y, 0.0, 0.0};
+    detail::GrowingBox box(BoxOfPoint(startPoint));
     for (std::size_t begin = 1; begin < sampleCount; begin += detail::SampleBlock)
     {
         detail::BlockOfSamples x{};
@@ -170,10 +169,10 @@ DRECT CSegment::GetBoundRectOfBezier(const DPOINT2& startPoint, const DPOINT2& f
         const std::size_t count = std::min(detail::SampleBlock, sampleCount - begin);
         for (std::size_t i = 0; i < count; ++i)
         {
-            Extend(box, {x[i], y[i]});
+            box.Unite(BoxOfPoint({x[i], y[i]}));
         }
     }
-    return box;
+    return box.Box();
 }
 
 CSegment CSegment::GetSplitSegment(double t, bool first)

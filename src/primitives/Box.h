@@ -3,6 +3,7 @@
 #include "math/Primitives.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace math::detail
 {
@@ -16,5 +17,33 @@ inline DRECT UnionOf(const DRECT& a, const DRECT& b)
     const double top = std::max(a.y + a.height, b.y + b.height);
     return {left, bottom, right - left, top - bottom};
 }
+
+/// The box of a line.
+inline DRECT BoxOfEnds(const DPOINT2& start, const DPOINT2& end)
+{
+    return {std::min(start.x, end.x), std::min(start.y, end.y), std::abs(start.x - end.x), std::abs(start.y - end.y)};
+}
+
+/// The union of boxes, one after the other.
+class GrowingBox
+{
+public:
+    explicit GrowingBox(const DRECT& first) : m_box(first)
+    {
+    }
+
+    void Unite(const DRECT& box)
+    {
+        m_box = UnionOf(m_box, box);
+    }
+
+    DRECT Box() const
+    {
+        return m_box;
+    }
+
+private:
+    DRECT m_box;
+};
 
 } // namespace math::detail

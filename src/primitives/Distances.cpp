@@ -1,6 +1,7 @@
 #include "math/Primitives.h"
 #include "primitives/Beeline.h"
 #include "primitives/Constants.h"
+#include "primitives/Distance.h"
 #include "primitives/OwnFrame.h"
 #include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
@@ -30,9 +31,7 @@ double DistanceToNearerEnd(const DPOINT2& point, const DPOINT2& a, const DPOINT2
 
 double D2GetDistance(const DPOINT2& a, const DPOINT2& b)
 {
-    const double dx = a.x - b.x;
-    const double dy = a.y - b.y;
-    return std::sqrt(dx * dx + dy * dy);
+    return detail::Distance(a, b);
 }
 
 double D2GetPointToLineDistance(const DPOINT2& point, const DPOINT2& a, const DPOINT2& b)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "math/Primitives.h"
+#include "primitives/Distance.h"
 
 #include <cmath>
 
@@ -24,9 +25,16 @@ inline bool CoincideByCoordinates(const DPOINT2& a, const DPOINT2& b)
     return AreEqual(a.x, b.x) && AreEqual(a.y, b.y);
 }
 
+/// Tells by the square of a length whether the length is zero, without a root. The square of the tolerance as it is
+/// rounded is the first double whose root is rounded to the tolerance itself.
+inline bool IsSquareOfZero(double square)
+{
+    return square < DoubleTolerance * DoubleTolerance;
+}
+
 inline bool CoincideByDistance(const DPOINT2& a, const DPOINT2& b)
 {
-    return IsZero(D2GetDistance(a, b));
+    return IsSquareOfZero(SquareOfDistance(a, b));
 }
 
 } // namespace math::detail
