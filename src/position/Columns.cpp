@@ -2,8 +2,10 @@
 
 #include "primitives/Tolerance.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <functional>
 
 namespace math::detail
 {
@@ -38,49 +40,62 @@ bool ExceedsLap(const JointList& joints, int side, int segmentCount)
     return span > segmentCount + DoubleTolerance;
 }
 
-/// Which ways the values seen so far may be said to run.
-struct Runs
+/// What lies in order between finite ends is finite, and a NaN is in no order.
+bool HasFiniteEnds(const JointList& joints, int side)
 {
-    explicit Runs(double first) : earlier(first)
-    {
-    }
+    return std::isfinite(ColumnValue(joints.front(), side)) && std::isfinite(ColumnValue(joints.back(), side));
+}
 
-    void Pass(double later)
-    {
-        rises &= earlier <= later;
-        falls &= earlier >= later;
-        earlier = later;
-    }
+constexpr std::less_equal<double> Rises;
+constexpr std::greater_equal<double> Falls;
 
-    /// What lies in order between finite ends is finite, and a NaN is in no order.
-    ColumnOrder Order(double first) const
+/// Tells whether every joint is in order with the one before it, in the source and in the destination.
+template <typename SourceOrder, typename DestinationOrder>
+bool AreInOrder(const JointList& joints, SourceOrder isSourceInOrder, DestinationOrder isDestinationInOrder)
+{
+    Joint earlier = joints.front();
+    for (const Joint& joint : joints)
     {
-        if (!std::isfinite(first) || !std::isfinite(earlier))
+        if (!isSourceInOrder(earlier.first, joint.first) || !isDestinationInOrder(earlier.second, joint.second))
         {
-            return ColumnOrder::Irregular;
+            return false;
         }
-        if (rises)
-        {
-            return ColumnOrder::Rising;
-        }
-        return falls ? ColumnOrder::Falling : ColumnOrder::Irregular;
+        earlier = joint;
     }
+    return true;
+}
 
-    double earlier;
-    bool rises = true;
-    bool falls = true;
-};
+/// Tells whether both columns are in the order that their ends suggest, by one comparison for each value.
+bool AreBothInOrder(const JointList& joints, bool sourceUp, bool destinationUp)
+{
+    if (sourceUp)
+    {
+        return destinationUp ? AreInOrder(joints, Rises, Rises) : AreInOrder(joints, Rises, Falls);
+    }
+    return destinationUp ? AreInOrder(joints, Falls, Rises) : AreInOrder(joints, Falls, Falls);
+}
+
+template <typename Order>
+bool IsInOrder(const JointList& joints, int side, Order isInOrder)
+{
+    const auto stepsBack = [=](const Joint& joint, const Joint& next) {
+        return !isInOrder(ColumnValue(joint, side), ColumnValue(next, side));
+    };
+    return std::adjacent_find(joints.begin(), joints.end(), stepsBack) == joints.end();
+}
+
+ColumnOrder OrderGoing(bool up)
+{
+    return up ? ColumnOrder::Rising : ColumnOrder::Falling;
+}
 
 } // namespace
 
 ColumnOrder OrderOf(const JointList& joints, int side)
 {
-    Runs column(ColumnValue(joints.front(), side));
-    for (const Joint& joint : joints)
-    {
-        column.Pass(ColumnValue(joint, side));
-    }
-    return column.Order(ColumnValue(joints.front(), side));
+    const bool up = RunsUpward(joints, side);
+    const bool isInOrder = up ? IsInOrder(joints, side, Rises) : IsInOrder(joints, side, Falls);
+    return isInOrder && HasFiniteEnds(joints, side) ? OrderGoing(up) : ColumnOrder::Irregular;
 }
 
 ListShape ShapeOf(const JointList& joints, int srcSegmentCount, int dstSegmentCount)
@@ -89,15 +104,15 @@ ListShape ShapeOf(const JointList& joints, int srcSegmentCount, int dstSegmentCo
     {
         return {false, ColumnOrder::Rising, ColumnOrder::Rising};
     }
-    const Joint& first = joints.front();
-    Runs source(first.first);
-    Runs destination(first.second);
-    for (const Joint& joint : joints)
+    const bool sourceUp = RunsUpward(joints, SourceSide);
+    const bool destinationUp = RunsUpward(joints, DestinationSide);
+    ListShape shape{false, OrderGoing(sourceUp), OrderGoing(destinationUp)};
+    if (!AreBothInOrder(joints, sourceUp, destinationUp) || !HasFiniteEnds(joints, SourceSide) ||
+        !HasFiniteEnds(joints, DestinationSide))
     {
-        source.Pass(joint.first);
-        destination.Pass(joint.second);
+        shape.source = OrderOf(joints, SourceSide);
+        shape.destination = OrderOf(joints, DestinationSide);
     }
-    ListShape shape{false, source.Order(first.first), destination.Order(first.second)};
     if (joints.size() > 1)
     {
         shape.isIllFormed =

@@ -14,7 +14,7 @@ enum class ColumnOrder
     Irregular ///< neither, or a NaN or infinity among the values
 };
 
-/// A single pass without early exit, quick on the orderly columns that nearly all maps have; the list must have a joint.
+/// Quick on the orderly columns that nearly all maps have; the list must have a joint.
 ColumnOrder OrderOf(const JointList& joints, int side);
 
 /// Tells whether the first value of a column is at most its last. Fewer than two joints run upward.
