@@ -7,7 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-#include <vector>
+#include <limits>
 
 namespace math::detail
 {
@@ -16,7 +16,7 @@ namespace math::detail
 ///
 /// Gives the same answers as the scans of PairList.h, which look at every joint. On a column in exact order the joints
 /// near a position are neighbours, since a rounded difference grows with its first operand; they are found by a search
-/// that starts where the last one ended. Any other column, and a position that is not finite, is scanned.
+/// that starts behind what the last one found. Any other column is scanned.
 class JointLookup
 {
 public:
@@ -30,12 +30,13 @@ public:
     {
     }
 
-    /// Appends the positions of the other column that answer to a raw position.
-    void AppendImages(double position, std::vector<double>& images)
+    /// Hands out the positions of the other column that answer to a raw position, in the order of the list.
+    template <typename Visit>
+    void ForEachImage(double position, const Visit& visit)
     {
-        if (m_order == ColumnOrder::Irregular || !std::isfinite(position))
+        if (m_order == ColumnOrder::Irregular)
         {
-            detail::AppendImages(m_joints, position, m_side, images);
+            detail::ForEachImage(m_joints, position, m_side, visit);
             return;
         }
         const std::size_t size = m_joints.size();
@@ -43,11 +44,12 @@ public:
         std::size_t end = begin;
         for (; end < size && Ahead(end, position) < DoubleTolerance; ++end)
         {
-            images.push_back(ColumnValue(m_joints[end], OtherSide(m_side)));
+            visit(ColumnValue(m_joints[end], OtherSide(m_side)));
         }
+        m_expected = end;
         if (begin == end && begin > 0 && end < size)
         {
-            images.push_back(InterpolateBetween(m_joints[begin - 1], m_joints[end], position, m_side));
+            visit(InterpolateBetween(m_joints[begin - 1], m_joints[end], position, m_side));
         }
     }
 
@@ -63,63 +65,83 @@ private:
         return Ahead(index, position) <= -DoubleTolerance;
     }
 
-    /// Index of the first joint that is not before a position by the tolerance: gallops from the last answer, then
-    /// halves.
+    /// Tells whether all joints below an index, and none from there on, are before a position.
+    bool IsFirstAtOrAfter(std::size_t index, double position) const
+    {
+        return (index == 0 || IsBefore(index - 1, position)) &&
+               (index == m_joints.size() || !IsBefore(index, position));
+    }
+
+    /// Index of the first joint that is not before a position by the tolerance.
     std::size_t FirstAtOrAfter(double position)
     {
-        const std::size_t size = m_joints.size();
         std::size_t low = 0;
-        std::size_t high = size;
-        if (m_last < size && IsBefore(m_last, position))
+        std::size_t high = m_joints.size();
+        if (m_expected != NotYet)
         {
-            low = m_last + 1;
+            if (IsFirstAtOrAfter(m_expected, position))
+            {
+                return m_expected;
+            }
+            GallopFromExpected(position, low, high);
+        }
+        while (high - low > Few)
+        {
+            const std::size_t middle = low + (high - low) / 2;
+            const bool isBefore = IsBefore(middle, position);
+            low = isBefore ? middle + 1 : low;
+            high = isBefore ? high : middle;
+        }
+        // The joints before come first, so it is enough to count them, without a branch to mispredict.
+        std::size_t found = low;
+        for (std::size_t i = low; i < high; ++i)
+        {
+            found += IsBefore(i, position) ? 1 : 0;
+        }
+        return found;
+    }
+
+    /// Closes in on a position from the joint that was expected, by steps that double.
+    void GallopFromExpected(double position, std::size_t& low, std::size_t& high) const
+    {
+        if (m_expected < high && IsBefore(m_expected, position))
+        {
+            const std::size_t size = high;
+            low = m_expected + 1;
             for (std::size_t step = 1; low < size; step *= 2)
             {
                 const std::size_t probe = std::min(low + step, size) - 1;
                 if (!IsBefore(probe, position))
                 {
                     high = probe;
-                    break;
+                    return;
                 }
                 low = probe + 1;
             }
+            return;
         }
-        else
+        high = m_expected;
+        for (std::size_t step = 1; high > 0; step *= 2)
         {
-            high = m_last;
-            for (std::size_t step = 1; high > 0; step *= 2)
+            const std::size_t probe = high - std::min(step, high);
+            if (IsBefore(probe, position))
             {
-                const std::size_t probe = high - std::min(step, high);
-                if (IsBefore(probe, position))
-                {
-                    low = probe + 1;
-                    break;
-                }
-                high = probe;
+                low = probe + 1;
+                return;
             }
+            high = probe;
         }
-        while (low < high)
-        {
-            const std::size_t middle = low + (high - low) / 2;
-            if (IsBefore(middle, position))
-            {
-                low = middle + 1;
-            }
-            else
-            {
-                high = middle;
-            }
-        }
-        m_last = low;
-        return low;
     }
+
+    static constexpr std::size_t NotYet = std::numeric_limits<std::size_t>::max();
+    static constexpr std::size_t Few = 16; ///< joints, of which all are compared
 
     const JointList& m_joints;
     int m_side;
     double Joint::*m_own;
     ColumnOrder m_order;
     double m_sign;
-    std::size_t m_last = 0; ///< where the last search ended
+    std::size_t m_expected = NotYet; ///< what a search for the next position up to the next joint finds
 };
 
 } // namespace math::detail

@@ -139,6 +139,97 @@ struct Landing
     double position;
 };
 
+/// The joints of the first source and the places of the landings, both ascending, merged into one walk.
+class MergedPlaces
+{
+public:
+    MergedPlaces(const std::vector<double>& own, const std::vector<Landing>& landings)
+        : m_own(own.begin()),
+          m_ownEnd(own.end()),
+          m_landing(landings.begin()),
+          m_landingsEnd(landings.end())
+    {
+    }
+
+    bool IsAtEnd() const
+    {
+        return m_own == m_ownEnd && m_landing == m_landingsEnd;
+    }
+
+    double TakeFirst()
+    {
+        const bool isOwn =
+            m_landing == m_landingsEnd || (m_own != m_ownEnd && detail::LiesBefore(*m_own, m_landing->place, true));
+        return isOwn ? *m_own++ : (m_landing++)->place;
+    }
+
+private:
+    std::vector<double>::const_iterator m_own;
+    std::vector<double>::const_iterator m_ownEnd;
+    std::vector<Landing>::const_iterator m_landing;
+    std::vector<Landing>::const_iterator m_landingsEnd;
+};
+
+/// Carries places, one after the other upward, through both maps.
+class StationWriter
+{
+public:
+    StationWriter(const WorkingMap& feeding, const WorkingMap& fed, const std::vector<Landing>& landings, bool sameWay,
+                  std::vector<Station>& stations, std::vector<double>& images)
+        : m_feeding(feeding.joints, SourceSide, feeding.shape.source),
+          m_fed(fed.joints, SourceSide, fed.shape.source),
+          m_landing(landings.begin()),
+          m_landingsEnd(landings.end()),
+          m_sameWay(sameWay),
+          m_stations(stations),
+          m_images(images)
+    {
+    }
+
+    /// Adds the station of a place, with its images.
+    void Write(double place)
+    {
+        FindBetween(place);
+        const std::size_t begin = m_images.size();
+        for (const double position : m_between)
+        {
+            m_fed.ForEachImage(position, [this](double image) { m_images.push_back(image); });
+        }
+        if (m_images.size() - begin > 1)
+        {
+            detail::SortPositions(m_images.begin() + static_cast<std::ptrdiff_t>(begin), m_images.end(), m_sameWay);
+            CollapseChains(m_images, begin);
+        }
+        m_stations.push_back({place, begin, m_images.size()});
+    }
+
+private:
+    /// Finds the positions between the two maps.
+    void FindBetween(double place)
+    {
+        m_between.clear();
+        m_feeding.ForEachImage(place, [this](double position) { m_between.push_back(position); });
+        for (; m_landing != m_landingsEnd && m_landing->place <= place; ++m_landing)
+        {
+            // What interpolation at the place missed, for instance the value of a joint on another lap.
+            const auto isKnown = [this](double position) { return AreEqual(position, m_landing->position); };
+            if (m_landing->place == place && std::none_of(m_between.begin(), m_between.end(), isKnown))
+            {
+                m_between.push_back(m_landing->position);
+            }
+        }
+    }
+
+    JointLookup m_feeding;
+    JointLookup m_fed;
+    std::vector<Landing>::const_iterator m_landing;
+    std::vector<Landing>::const_iterator m_landingsEnd;
+    bool m_sameWay;
+    std::vector<Station>& m_stations;
+    std::vector<double>& m_images;
+    std::vector<double> m_between;
+};
+
 /// Composes two normal maps that both have joints. Of maps that meet at a seam, the partner of the side that crosses is
 /// lengthened to two laps; where both cross, the second map alone.
 class Composition
@@ -149,10 +240,8 @@ public:
     CPolyPosMap Compose();
 
 private:
-    std::vector<double> FedJoints() const;
     void CollectLandings();
-    void CollectPlaces();
-    void CollectImages();
+    void CollectStations();
     void ReduceRuns();
     bool HaveSameImages(const Station& a, const Station& b) const;
     JointList JointsInWalkingOrder();
@@ -167,9 +256,9 @@ private:
     WorkingMap m_fed;     ///< the second map, unrolled if the first one's destination crosses the seam
     bool m_sameWay;
     std::vector<Landing> m_landings; ///< ascending by place
-    std::vector<double> m_places;    ///< places on the first source where the result may have a joint, ascending
+    std::vector<Station> m_stations; ///< places on the first source where the result may have a joint, ascending
     std::vector<double> m_images;    ///< the images of all stations, one after the other
-    std::vector<Station> m_stations; ///< the places and their images, in the order in which those are walked
+    std::vector<double> m_positions; ///< a source column, ascending; of either map in turn
 };
 
 Composition::Composition(const CPolyPosMap& first, const CPolyPosMap& second)
@@ -184,21 +273,21 @@ Composition::Composition(const CPolyPosMap& first, const CPolyPosMap& second)
 {
 }
 
-/// The joints of the second source, ascending, of near ones the last.
-std::vector<double> Composition::FedJoints() const
+/// Puts the source column into ascending order.
+void SortSources(const WorkingMap& map, std::vector<double>& positions)
 {
-    std::vector<double> positions;
-    positions.reserve(m_fed.joints.size());
-    for (const Joint& joint : m_fed.joints)
+    positions.clear();
+    for (const Joint& joint : map.joints)
     {
         positions.push_back(joint.first);
     }
-    detail::SortPositions(positions.begin(), positions.end(), true);
-    CollapseChains(positions, 0);
-    return positions;
+    if (map.shape.source != detail::ColumnOrder::Rising)
+    {
+        detail::SortPositions(positions.begin(), positions.end(), true);
+    }
 }
 
-/// Carries the joints of the second source back through the first map.
+/// Carries the joints of the second source, of near ones the last, back through the first map.
 void Composition::CollectLandings()
 {
     // The inverse of the first map: an identity is its own.
@@ -209,77 +298,38 @@ void Composition::CollectLandings()
     const detail::LapMover moveToLap(m_feeding.shape.isIllFormed ? PosRangeD() : detail::SpanOf(m_feeding.joints, side),
                                      m_feeding.dstSegmentCount);
     JointLookup lookup(m_feeding.joints, side, order);
-    const std::vector<double> fedJoints = FedJoints();
-    m_landings.reserve(fedJoints.size());
-    std::vector<double> places;
-    for (const double fedJoint : fedJoints)
+    SortSources(m_fed, m_positions);
+    CollapseChains(m_positions, 0);
+    m_landings.reserve(m_positions.size());
+    for (const double fedJoint : m_positions)
     {
         const double moved = moveToLap(fedJoint);
-        places.clear();
-        lookup.AppendImages(moved, places);
-        for (const double place : places)
-        {
-            m_landings.push_back({place, moved});
-        }
+        lookup.ForEachImage(moved, [&](double place) { m_landings.push_back({place, moved}); });
     }
     detail::SortStably(m_landings.begin(), m_landings.end(),
                        [](const Landing& a, const Landing& b) { return detail::LiesBefore(a.place, b.place, true); });
 }
 
-void Composition::CollectPlaces()
+/// Makes stations of the joints of the first source and the places that the second map brings in.
+void Composition::CollectStations()
 {
-    std::vector<double> ownJoints;
-    ownJoints.reserve(m_feeding.joints.size());
-    for (const Joint& joint : m_feeding.joints)
+    SortSources(m_feeding, m_positions);
+    m_stations.reserve(m_landings.size() + m_positions.size());
+    m_images.reserve(m_landings.size() + m_positions.size());
+    StationWriter writer(m_feeding, m_fed, m_landings, m_sameWay, m_stations, m_images);
+    MergedPlaces places(m_positions, m_landings);
+    double place = places.TakeFirst();
+    while (!places.IsAtEnd())
     {
-        ownJoints.push_back(joint.first);
-    }
-    detail::SortPositions(ownJoints.begin(), ownJoints.end(), true);
-
-    m_places.reserve(m_landings.size() + ownJoints.size());
-    auto own = ownJoints.begin();
-    for (const Landing& landing : m_landings)
-    {
-        while (own != ownJoints.end() && detail::LiesBefore(*own, landing.place, true))
+        const double next = places.TakeFirst();
+        // Of a chain of near places the last one stays.
+        if (!AreEqual(place, next))
         {
-            m_places.push_back(*own++);
+            writer.Write(place);
         }
-        m_places.push_back(landing.place);
+        place = next;
     }
-    m_places.insert(m_places.end(), own, ownJoints.end());
-    CollapseChains(m_places, 0);
-}
-
-void Composition::CollectImages()
-{
-    JointLookup feeding(m_feeding.joints, SourceSide, m_feeding.shape.source);
-    JointLookup fed(m_fed.joints, SourceSide, m_fed.shape.source);
-    m_images.reserve(m_places.size());
-    m_stations.reserve(m_places.size());
-    std::vector<double> between;
-    auto landing = m_landings.cbegin();
-    for (const double place : m_places)
-    {
-        between.clear();
-        feeding.AppendImages(place, between);
-        for (; landing != m_landings.cend() && landing->place <= place; ++landing)
-        {
-            // What interpolation at the place missed, for instance the value of a joint on another lap.
-            const auto isKnown = [&](double position) { return AreEqual(position, landing->position); };
-            if (landing->place == place && std::none_of(between.begin(), between.end(), isKnown))
-            {
-                between.push_back(landing->position);
-            }
-        }
-        const std::size_t begin = m_images.size();
-        for (const double position : between)
-        {
-            fed.AppendImages(position, m_images);
-        }
-        detail::SortPositions(m_images.begin() + static_cast<std::ptrdiff_t>(begin), m_images.end(), m_sameWay);
-        CollapseChains(m_images, begin);
-        m_stations.push_back({place, begin, m_images.size()});
-    }
+    writer.Write(place);
 }
 
 bool Composition::HaveSameImages(const Station& a, const Station& b) const
@@ -345,7 +395,7 @@ void CutBeyond(JointList& joints, int side, double limit, bool upward)
     const auto isAtLimit = [=](const Joint& joint) { return AreEqual(detail::ColumnValue(joint, side), limit); };
     const auto isBeyond = [=](const Joint& joint) {
         const double value = detail::ColumnValue(joint, side);
-        return !isAtLimit(joint) && (upward ? value > limit : value < limit);
+        return (upward ? value - limit : limit - value) >= DoubleTolerance;
     };
     const auto firstOut = std::find_if(joints.begin(), joints.end(), isBeyond);
     if (firstOut == joints.end())
@@ -386,9 +436,9 @@ CPolyPosMap Composition::MakeResult(JointList& joints) const
 
 CPolyPosMap Composition::Compose()
 {
+    m_positions.reserve(std::max(m_feeding.joints.size(), m_fed.joints.size()));
     CollectLandings();
-    CollectPlaces();
-    CollectImages();
+    CollectStations();
     ReduceRuns();
     JointList joints = JointsInWalkingOrder();
     if (joints.empty())

@@ -1,7 +1,5 @@
 #include "position/MapEvaluator.h"
 
-#include <vector>
-
 namespace math::detail
 {
 
@@ -12,21 +10,6 @@ MapEvaluator::MapEvaluator(const CPolyPosMap& map)
                   map.SrcSegmentCount()),
       m_lookup(map.PosPairs(), SourceSide, m_shape.source)
 {
-}
-
-void MapEvaluator::AppendImages(double position, std::vector<double>& images)
-{
-    if (m_shape.isIllFormed)
-    {
-        return;
-    }
-    const double moved = MoveToLap(position);
-    if (m_map.IsEmpty())
-    {
-        images.push_back(moved);
-        return;
-    }
-    m_lookup.AppendImages(moved, images);
 }
 
 } // namespace math::detail

@@ -34,9 +34,28 @@ public:
         return m_moveToLap(position);
     }
 
-    /// Appends the images of a source position. None if the map is ill-formed; an empty map hands the moved position
-    /// through.
-    void AppendImages(double position, std::vector<double>& images);
+    /// Hands out the images of a source position. None if the map is ill-formed; an empty map hands out the moved
+    /// position.
+    template <typename Visit>
+    void ForEachImage(double position, const Visit& visit)
+    {
+        if (m_shape.isIllFormed)
+        {
+            return;
+        }
+        const double moved = MoveToLap(position);
+        if (m_map.IsEmpty())
+        {
+            visit(moved);
+            return;
+        }
+        m_lookup.ForEachImage(moved, visit);
+    }
+
+    void AppendImages(double position, std::vector<double>& images)
+    {
+        ForEachImage(position, [&](double image) { images.push_back(image); });
+    }
 
 private:
     const CPolyPosMap& m_map;

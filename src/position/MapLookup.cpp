@@ -47,7 +47,7 @@ std::vector<double> CPolyPosMap::MultyDouble(const std::vector<std::pair<double,
         return {pos};
     }
     std::vector<double> images;
-    detail::AppendImages(pairs, pos, SourceSide, images);
+    detail::ForEachImage(pairs, pos, SourceSide, [&](double image) { images.push_back(image); });
     return images;
 }
 

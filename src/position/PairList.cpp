@@ -15,13 +15,6 @@ namespace math::detail
 namespace
 {
 
-/// The straight line through (fromX, fromY) and (toX, toY) at x. The order of the operations is part of the contract:
-/// equal input gives equal bits wherever a map is interpolated.
-double Interpolate(double x, double fromX, double fromY, double toX, double toY)
-{
-    return ((x - fromX) / (toX - fromX)) * (toY - fromY) + fromY;
-}
-
 bool RunsUp(const JointList& joints, int side)
 {
     return ColumnValue(joints.back(), side) > ColumnValue(joints.front(), side);
@@ -37,50 +30,64 @@ int IndexFromBack(const JointList& joints, JointList::const_reverse_iterator fou
     return found == joints.rend() ? -1 : static_cast<int>(std::distance(found, joints.rend())) - 1;
 }
 
-double Slope(const Joint& from, const Joint& to, int runSide)
-{
-    const int riseSide = OtherSide(runSide);
-    return (ColumnValue(to, riseSide) - ColumnValue(from, riseSide)) /
-           (ColumnValue(to, runSide) - ColumnValue(from, runSide));
-}
-
 bool AreNear(const Joint& a, const Joint& b)
 {
     return AreEqual(a.first, b.first) && AreEqual(a.second, b.second);
 }
 
 /// Walks along a list and tells of each joint whether it lies on a straight line between the joint kept before it and
-/// the one after it.
+/// the one after it, as a function of the column `Run`.
+template <double Joint::*Run, double Joint::*Rise>
 class StraightTest
 {
 public:
-    explicit StraightTest(int runSide) : m_runSide(runSide)
-    {
-    }
-
     /// The equality of positions is exact here, the tolerance belongs to the slopes alone.
     bool operator()(const Joint& before, const Joint& joint, const Joint& after)
     {
         const bool keptTheLast = m_knowsSlope;
         m_knowsSlope = false;
-        const double position = ColumnValue(joint, m_runSide);
-        if (position == ColumnValue(before, m_runSide) || position == ColumnValue(after, m_runSide))
+        if (joint.*Run == before.*Run || joint.*Run == after.*Run)
         {
             return false;
         }
         // The slope behind a joint that stays is the slope before the next one.
-        const double slopeBefore = keptTheLast ? m_slopeBehind : Slope(before, joint, m_runSide);
-        m_slopeBehind = Slope(joint, after, m_runSide);
+        const double slopeBefore = keptTheLast ? m_slopeBehind : Slope(before, joint);
+        m_slopeBehind = Slope(joint, after);
         const bool isStraight = AreEqual(slopeBefore, m_slopeBehind);
         m_knowsSlope = !isStraight;
         return isStraight;
     }
 
 private:
-    int m_runSide;
+    static double Slope(const Joint& from, const Joint& to)
+    {
+        return (to.*Rise - from.*Rise) / (to.*Run - from.*Run);
+    }
+
     bool m_knowsSlope = false;
     double m_slopeBehind = 0.0;
 };
+
+/// Drops the joints that lie on a straight line between their neighbours, as a function of the column `Run`.
+template <double Joint::*Run, double Joint::*Rise>
+void RemoveStraight(JointList& joints)
+{
+    if (joints.size() < 3)
+    {
+        return;
+    }
+    StraightTest<Run, Rise> isStraight;
+    auto kept = joints.begin();
+    for (auto joint = kept + 1; joint + 1 != joints.end(); ++joint)
+    {
+        if (!isStraight(*kept, *joint, *(joint + 1)))
+        {
+            *++kept = *joint;
+        }
+    }
+    *++kept = joints.back();
+    joints.erase(kept + 1, joints.end());
+}
 
 } // namespace
 
@@ -130,37 +137,6 @@ int FindRightIndex(const JointList& joints, double position, int side)
         return up ? value > position : value < position;
     };
     return IndexFromFront(joints, std::find_if(joints.begin(), joints.end(), isAfter));
-}
-
-double InterpolateBetween(const Joint& from, const Joint& to, double position, int side)
-{
-    const int otherSide = OtherSide(side);
-    return Interpolate(position, ColumnValue(from, side), ColumnValue(from, otherSide), ColumnValue(to, side),
-                       ColumnValue(to, otherSide));
-}
-
-void AppendImages(const JointList& joints, double position, int side, std::vector<double>& images)
-{
-    bool isAtJoint = false;
-    for (const Joint& joint : joints)
-    {
-        if (AreEqual(ColumnValue(joint, side), position))
-        {
-            images.push_back(ColumnValue(joint, OtherSide(side)));
-            isAtJoint = true;
-        }
-    }
-    if (isAtJoint)
-    {
-        return;
-    }
-    const int left = FindLeftIndex(joints, position, side);
-    const int right = FindRightIndex(joints, position, side);
-    if (left != -1 && right != -1)
-    {
-        images.push_back(InterpolateBetween(joints[static_cast<std::size_t>(left)],
-                                            joints[static_cast<std::size_t>(right)], position, side));
-    }
 }
 
 Joint InsertJoint(JointList& joints, double position, int side)
@@ -217,30 +193,11 @@ void RemoveRepeated(JointList& joints)
     joints.resize(lastKept + 1);
 }
 
-void RemoveStraight(JointList& joints, int runSide)
-{
-    if (joints.size() < 3)
-    {
-        return;
-    }
-    StraightTest isStraight(runSide);
-    std::size_t lastKept = 0;
-    for (std::size_t i = 1; i + 1 < joints.size(); ++i)
-    {
-        if (!isStraight(joints[lastKept], joints[i], joints[i + 1]))
-        {
-            joints[++lastKept] = joints[i];
-        }
-    }
-    joints[++lastKept] = joints.back();
-    joints.resize(lastKept + 1);
-}
-
 void Tidy(JointList& joints)
 {
     RemoveRepeated(joints);
-    RemoveStraight(joints, SourceSide);
-    RemoveStraight(joints, DestinationSide);
+    RemoveStraight<&Joint::first, &Joint::second>(joints);
+    RemoveStraight<&Joint::second, &Joint::first>(joints);
 }
 
 bool IsIdentityList(const JointList& joints, int srcSegmentCount, int dstSegmentCount)

@@ -1,5 +1,8 @@
 #pragma once
 
+#include "primitives/Tolerance.h"
+
+#include <cstddef>
 #include <utility>
 #include <vector>
 
@@ -43,12 +46,48 @@ int FindLeftIndex(const JointList& joints, double position, int side);
 /// Index of the first joint at or after `position` in walking order, or -1.
 int FindRightIndex(const JointList& joints, double position, int side);
 
-/// Appends the positions of the other column that answer to a raw position of a side: those of all joints near it, else
-/// one by interpolation, else none. Every joint is looked at; see JointLookup for many positions.
-void AppendImages(const JointList& joints, double position, int side, std::vector<double>& images);
+/// The straight line through (fromX, fromY) and (toX, toY) at x. The order of the operations is part of the contract:
+/// equal input gives equal bits wherever a map is interpolated.
+inline double Interpolate(double x, double fromX, double fromY, double toX, double toY)
+{
+    return ((x - fromX) / (toX - fromX)) * (toY - fromY) + fromY;
+}
 
 /// The value of the other column at a position of a side between two joints.
-double InterpolateBetween(const Joint& from, const Joint& to, double position, int side);
+inline double InterpolateBetween(const Joint& from, const Joint& to, double position, int side)
+{
+    const int otherSide = OtherSide(side);
+    return Interpolate(position, ColumnValue(from, side), ColumnValue(from, otherSide), ColumnValue(to, side),
+                       ColumnValue(to, otherSide));
+}
+
+/// Hands out the positions of the other column that answer to a raw position of a side, in the order of the list: those
+/// of all joints near it, else one by interpolation, else none. Every joint is looked at; see JointLookup for many
+/// positions.
+template <typename Visit>
+void ForEachImage(const JointList& joints, double position, int side, const Visit& visit)
+{
+    bool isAtJoint = false;
+    for (const Joint& joint : joints)
+    {
+        if (AreEqual(ColumnValue(joint, side), position))
+        {
+            visit(ColumnValue(joint, OtherSide(side)));
+            isAtJoint = true;
+        }
+    }
+    if (isAtJoint)
+    {
+        return;
+    }
+    const int left = FindLeftIndex(joints, position, side);
+    const int right = FindRightIndex(joints, position, side);
+    if (left != -1 && right != -1)
+    {
+        visit(InterpolateBetween(joints[static_cast<std::size_t>(left)], joints[static_cast<std::size_t>(right)],
+                                 position, side));
+    }
+}
 
 /// Gives the joint at a raw position of a side, adding it if there is none. An empty list is left alone, with the answer
 /// (-1.0, -1.0).
@@ -57,10 +96,8 @@ Joint InsertJoint(JointList& joints, double position, int side);
 /// Drops every joint near the one kept before it.
 void RemoveRepeated(JointList& joints);
 
-/// Drops the joints that lie on a straight line between their neighbours, as a function of the column of `runSide`.
-void RemoveStraight(JointList& joints, int runSide);
-
-/// RemoveRepeated, then RemoveStraight along the source and along the destination.
+/// Drops every joint near the one kept before it; then those that lie on a straight line between their neighbours, as a
+/// function of the source and, of what is left, as a function of the destination.
 void Tidy(JointList& joints);
 
 /// Tells whether a map with these joints changes nothing.

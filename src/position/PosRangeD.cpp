@@ -47,19 +47,17 @@ void PosRangeD::MakeInavlid()
 
 int PosRangeD::GetSegmentIndex(const double& pos)
 {
-    double whole = 0.0;
-    std::modf(pos, &whole);
-    if (std::isnan(whole))
+    if (std::isnan(pos))
     {
         return 0;
     }
     constexpr int least = std::numeric_limits<int>::min();
     constexpr int greatest = std::numeric_limits<int>::max();
-    if (whole <= least)
+    if (pos <= least)
     {
         return least;
     }
-    return whole >= greatest ? greatest : static_cast<int>(whole);
+    return pos >= greatest ? greatest : static_cast<int>(pos);
 }
 
 double PosRangeD::GetRadio(const double& pos)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "math/Primitives.h"
+
 #include <cmath>
 #include <cstdint>
 #include <vector>
@@ -16,6 +18,12 @@ int SaturateToInt(std::int64_t value);
 
 /// Number of whole laps of `segmentCount` in a position at or above 0, negative below; the count must not be 0.
 std::int64_t WholeLaps(double position, int segmentCount);
+
+/// Tells whether a position lies between 0 and the count and near neither.
+inline bool LiesWithinFirstLap(double position, int segmentCount)
+{
+    return position >= DoubleTolerance && segmentCount - position >= DoubleTolerance;
+}
 
 /// Tells whether a position comes before another on the way up or down. NaN comes last, so that the order is always
 /// well defined.

@@ -30,6 +30,35 @@ int SomeSide(RandomMaps& random)
     return random.OneIn(20) ? random.Below(6) - 1 : 1 + random.Below(3);
 }
 
+/// A column of so many joints from 0 to the count, a step of nothing here and there, turned round for one that runs down.
+std::vector<double> LongColumn(RandomMaps& random, std::size_t joints, int count, bool up)
+{
+    std::vector<double> column(1, 0.0);
+    while (column.size() < joints)
+    {
+        column.push_back(column.back() + (random.OneIn(6) ? 0.0 : random.Ratio()));
+    }
+    const double end = column.back() > 0 ? column.back() : 1.0;
+    for (double& position : column)
+    {
+        position *= count / end;
+    }
+    return up ? column : std::vector<double>(column.rbegin(), column.rend());
+}
+
+CPolyPosMap LongMap(RandomMaps& random, std::size_t joints)
+{
+    const int count = 64;
+    const std::vector<double> source = LongColumn(random, joints, count, !random.OneIn(3));
+    const std::vector<double> destination = LongColumn(random, joints, count, !random.OneIn(3));
+    Pairs pairs;
+    for (std::size_t i = 0; i < joints; ++i)
+    {
+        pairs.emplace_back(source[i], destination[i]);
+    }
+    return Map(pairs, count, count);
+}
+
 /// Applies one change to many maps, in the library and in the plain implementation.
 template <typename Change, typename PlainChange>
 void ExpectTheSameChange(std::uint32_t seed, int count, Change change, PlainChange plainChange)
@@ -195,6 +224,46 @@ TEST(ReferenceAgreement, OfLookup)
             EXPECT_EQ(map.GetMaxLeftIndex(position, side), reference::LeftIndex(column, position)) << described;
             EXPECT_EQ(map.GetMinRightIndex(position, side), reference::RightIndex(column, position)) << described;
         }
+    }
+}
+
+// Columns too long to be compared joint by joint, with jumps and flats, run either way and are looked up at random, at
+// and around their joints, and beyond their ends.
+TEST(ReferenceAgreement, OfLookupInLongMaps)
+{
+    RandomMaps random(13);
+    for (int i = 0; i < Maps / 40 && !HasFailure(); ++i)
+    {
+        const CPolyPosMap map = LongMap(random, 10 + static_cast<std::size_t>(random.Below(120)));
+        const reference::RefMap plain = reference::From(map);
+        ASSERT_FALSE(map.IsInvalid());
+        std::vector<double> positions = {-1, 0, 1.0 * map.SrcSegmentCount(), 1.5 * map.SrcSegmentCount()};
+        for (const auto& joint : map.PosPairs())
+        {
+            positions.push_back(joint.first);
+            positions.push_back(joint.first + 1e-9 * (random.Ratio() - 0.5) * 4);
+            positions.push_back(random.Ratio() * map.SrcSegmentCount());
+        }
+        for (const double position : positions)
+        {
+            EXPECT_EQ(Images(map * position), Images(reference::Multiply(plain, position)))
+                << Described(map) << " at " << Text(position);
+        }
+    }
+}
+
+// The places of either map lie among those of the other, many in a row as well.
+TEST(ReferenceAgreement, OfCompositionsOfLongMaps)
+{
+    RandomMaps random(14);
+    for (int i = 0; i < Maps / 100 && !HasFailure(); ++i)
+    {
+        const std::size_t joints = 2 + static_cast<std::size_t>(random.Below(40));
+        const CPolyPosMap first = LongMap(random, random.OneIn(3) ? 4 * joints : joints);
+        CPolyPosMap second = LongMap(random, random.OneIn(3) ? 4 * joints : joints);
+        second.SrcSegmentCount() = first.DstSegmentCount();
+        const reference::RefMap expected = reference::Compose(reference::From(first), reference::From(second));
+        EXPECT_EQ(first * second, reference::To(expected)) << Described(first) << "\ntimes " << Described(second);
     }
 }
 
