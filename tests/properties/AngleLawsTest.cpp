@@ -30,7 +30,7 @@ constexpr Fold DegreeFolds[] = {{360, RegularizeAngle, NormalizeAngle},
 constexpr Fold RadianFolds[] = {{TwoPi, RegularizeRadian, NormalizeRadian},
                                 {Pi, RegularizeIncludedRadian, NormalizeIncludedRadian}};
 
-/// Multiples of 1/8 over six turns: all multiples of 15 and numbers beside them.
+/// Multiples of 1/8 over six turns: all multiples of 15 and numbers beside them; and multiples of 1/1024 at random.
 std::vector<double> GridDegrees()
 {
     std::vector<double> degrees;
@@ -40,6 +40,11 @@ std::vector<double> GridDegrees()
         {
             degrees.push_back(15 * step + offset);
         }
+    }
+    Random random(2);
+    for (int round = 0; round < 2000; ++round)
+    {
+        degrees.push_back(random.Integer(-4096 * 1024, 4096 * 1024) / 1024.0);
     }
     return degrees;
 }
@@ -81,7 +86,7 @@ bool IsShort(const Vector& vector)
     return std::abs(vector.x) < DoubleTolerance && std::abs(vector.y) < DoubleTolerance;
 }
 
-/// The vectors of a small grid in sizes that meet both rules of what has no direction.
+/// The vectors of a small grid in sizes that meet both rules of what has no direction, and vectors at random.
 std::vector<Vector> GridVectors()
 {
     std::vector<Vector> vectors;
@@ -99,6 +104,12 @@ std::vector<Vector> GridVectors()
     {
         vectors.push_back({1, tiny});
         vectors.push_back({1, -tiny});
+    }
+    Random random(3);
+    for (int round = 0; round < 2000; ++round)
+    {
+        const double size = random.Size(1e-12, 1e100);
+        vectors.push_back({random.Number(-size, size), random.Number(-size, size)});
     }
     return vectors;
 }
@@ -286,6 +297,15 @@ TEST(AngleLaws, A8_BulgeIsOddInTheSweepAndTellsItAgainExceptForAFullCircle)
         }
     }
     EXPECT_EQ(fullCircles, 2 * 25);
+    Random random(8);
+    for (int round = 0; round < 2000; ++round)
+    {
+        const double start = random.Number(-TwoPi, TwoPi);
+        const double sweep = random.Number(-6.28, 6.28);
+        const double bulge = GetBulge(start, start + sweep);
+        ASSERT_EQ(GetBulge(start + sweep, start), -bulge) << Digits(start) << " " << Digits(sweep);
+        ASSERT_TRUE(Near(4 * std::atan(bulge), sweep, 16 * Unit * 2 * TwoPi)) << Digits(start) << " " << Digits(sweep);
+    }
 }
 
 TEST(AngleLaws, A9_BothDirectionsOfAVectorAreOneButForShortVectorsAndTheTurnItself)
@@ -342,13 +362,30 @@ TEST(AngleLaws, A10_TurningBackIsTheOppositeAngleExceptForOppositeVectors)
     // Rays through (1, 0) or (1, 1) and their like hold 4 vectors, 8 through (2, 1) hold 2, 16 through (3, 1) or (3, 2)
     // and 16 through (4, 1) or (4, 3) one: each has the vectors of the opposite ray for opposites.
     EXPECT_EQ(opposite, 8 * 16 + 8 * 4 + 16 + 16);
+    Random random(10);
+    for (int round = 0; round < 5000; ++round)
+    {
+        const DPOINT2 a = random.Point(100);
+        const DPOINT2 b = random.Point(100);
+        const double there = D2RotateAngle(gp_Vec2d(a.x, a.y), gp_Vec2d(b.x, b.y));
+        ASSERT_EQ(D2RotateAngle(gp_Vec2d(b.x, b.y), gp_Vec2d(a.x, a.y)), -there);
+        ASSERT_EQ(D2GetIncludeAngle(gp_Vec2d(a.x, a.y), gp_Vec2d(b.x, b.y)), std::abs(there));
+        ASSERT_TRUE(NearDirection(ComputeAngle(a.x, a.y) + there, ComputeAngle(b.x, b.y), TwoPi, 24 * Unit * TwoPi));
+    }
 }
 
 TEST(AngleLaws, A11_ProductsOfVectorsFollowLagrangesIdentity)
 {
-    for (const Vector& a : WholeVectors())
+    std::vector<Vector> vectors = WholeVectors();
+    Random random(11);
+    for (int round = 0; round < 100; ++round)
     {
-        for (const Vector& b : WholeVectors())
+        vectors.push_back(
+            {static_cast<double>(random.Integer(-999, 999)), static_cast<double>(random.Integer(1, 999))});
+    }
+    for (const Vector& a : vectors)
+    {
+        for (const Vector& b : vectors)
         {
             const gp_Vec2d first(a.x, a.y);
             const gp_Vec2d second(b.x, b.y);

@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstdint>
 #include <numeric>
 #include <vector>
 
@@ -49,6 +50,19 @@ std::vector<DPOINT2> Lattice(int last)
     return points;
 }
 
+/// Points with whole coordinates up to `extent` at random.
+std::vector<DPOINT2> WholePoints(std::uint64_t seed, int count, int extent)
+{
+    Random random(seed);
+    std::vector<DPOINT2> points;
+    for (int i = 0; i < count; ++i)
+    {
+        const int x = random.Integer(-extent, extent);
+        points.push_back(At(x, random.Integer(-extent, extent)));
+    }
+    return points;
+}
+
 DPOINT2 QuarterTurned(const DPOINT2& point)
 {
     return {-point.y, point.x};
@@ -59,6 +73,8 @@ DPOINT2 Moved(const DPOINT2& point)
     return {point.x + 16, point.y - 32};
 }
 
+constexpr int RandomOvals = 200;
+
 struct Oval
 {
     DPOINT2 centre;
@@ -67,7 +83,7 @@ struct Oval
     double rotation;
 };
 
-/// Semi-axes in both orders, a circle, rotations of all quarters.
+/// Semi-axes in both orders, a circle, rotations of all quarters, and ellipses at random.
 std::vector<Oval> GridOvals()
 {
     std::vector<Oval> ovals;
@@ -80,6 +96,14 @@ std::vector<Oval> GridOvals()
                 ovals.push_back({At(1, -2), a, b, Pi * rotation / 12});
             }
         }
+    }
+    Random random(4);
+    for (int i = 0; i < RandomOvals; ++i)
+    {
+        const DPOINT2 centre = random.Point(2);
+        const double a = random.Size(1, 5);
+        const double b = random.Size(0.5, 2);
+        ovals.push_back({centre, a, b, random.Number(-Pi, TwoPi)});
     }
     return ovals;
 }
@@ -110,6 +134,7 @@ struct RoundArc
     }
 };
 
+/// Starts and sweeps of multiples of π/6, and arcs at random.
 std::vector<RoundArc> GridArcs()
 {
     std::vector<RoundArc> arcs;
@@ -125,6 +150,14 @@ std::vector<RoundArc> GridArcs()
                 }
             }
         }
+    }
+    Random random(5);
+    for (int i = 0; i < 300; ++i)
+    {
+        const DPOINT2 centre = random.Point(2);
+        const double radius = random.Size(0.25, 4);
+        const double start = random.Radian();
+        arcs.push_back({centre, radius, start, (random.Coin() ? 1 : -1) * random.Number(0.01, 6.2)});
     }
     return arcs;
 }
@@ -143,7 +176,9 @@ gp_Circ2d CircleAt(const DPOINT2& centre, double radius)
 
 TEST(DistanceLaws, A12_DistanceIsAMetricAndMovesAlong)
 {
-    const std::vector<DPOINT2> points = Lattice(4);
+    std::vector<DPOINT2> points = Lattice(4);
+    const std::vector<DPOINT2> others = WholePoints(12, 40, 1000);
+    points.insert(points.end(), others.begin(), others.end());
     for (const DPOINT2& a : points)
     {
         for (const DPOINT2& b : points)
@@ -155,7 +190,7 @@ TEST(DistanceLaws, A12_DistanceIsAMetricAndMovesAlong)
             ASSERT_EQ(D2GetDistance(QuarterTurned(a), QuarterTurned(b)), distance);
             for (const DPOINT2& c : points)
             {
-                ASSERT_LE(D2GetDistance(a, c), distance + D2GetDistance(b, c) + 4 * Unit * 12);
+                ASSERT_LE(D2GetDistance(a, c), (distance + D2GetDistance(b, c)) * (1 + 4 * Unit));
             }
         }
     }
@@ -164,6 +199,20 @@ TEST(DistanceLaws, A12_DistanceIsAMetricAndMovesAlong)
 TEST(DistanceLaws, A13_TheFootOfThePerpendicularLiesOnTheLineAtTheDistanceOfTheLine)
 {
     const double rounding = 16 * Unit * 8;
+    const auto check = [&](const DPOINT2& a, const DPOINT2& b, const DPOINT2& point) {
+        const LineD2D line{a.x, a.y, b.x, b.y};
+        const double distance = D2GetPointToLineDistance(point, a, b);
+        ASSERT_TRUE(Near(distance, std::abs(Cross(a, b, point)) / Distance(a, b), rounding));
+        ASSERT_TRUE(Near(D2GetPointToLineDistance(point, b, a), distance, rounding));
+        DPOINT2 foot = Untouched();
+        D2GetProjectionPoint(point, line, &foot);
+        ASSERT_TRUE(Near(D2GetPointToLineDistance(foot, a, b), 0, rounding));
+        ASSERT_TRUE(Near(D2GetDistance(point, foot), distance, rounding));
+        DPOINT2 again = Untouched();
+        D2GetProjectionPoint(foot, line, &again);
+        ASSERT_TRUE(Near(again, foot, rounding));
+        ASSERT_EQ(IsPointProjInLine(point, a, b), IsPointProjInLine(point, b, a));
+    };
     const std::vector<DPOINT2> points = Lattice(4);
     for (const DPOINT2& a : points)
     {
@@ -174,46 +223,53 @@ TEST(DistanceLaws, A13_TheFootOfThePerpendicularLiesOnTheLineAtTheDistanceOfTheL
                 ASSERT_TRUE(std::isnan(D2GetPointToLineDistance(At(1, 1), a, b)));
                 continue;
             }
-            const LineD2D line{a.x, a.y, b.x, b.y};
             for (const DPOINT2& point : Lattice(3))
             {
-                const double distance = D2GetPointToLineDistance(point, a, b);
-                ASSERT_TRUE(Near(distance, std::abs(Cross(a, b, point)) / Distance(a, b), rounding));
-                ASSERT_TRUE(Near(D2GetPointToLineDistance(point, b, a), distance, rounding));
-                DPOINT2 foot = Untouched();
-                D2GetProjectionPoint(point, line, &foot);
-                ASSERT_TRUE(Near(D2GetPointToLineDistance(foot, a, b), 0, rounding));
-                ASSERT_TRUE(Near(D2GetDistance(point, foot), distance, rounding));
-                DPOINT2 again = Untouched();
-                D2GetProjectionPoint(foot, line, &again);
-                ASSERT_TRUE(Near(again, foot, rounding));
-                ASSERT_EQ(IsPointProjInLine(point, a, b), IsPointProjInLine(point, b, a));
+                check(a, b, point);
             }
         }
+    }
+    Random random(13);
+    for (int round = 0; round < 5000; ++round)
+    {
+        const DPOINT2 a = random.Point(4);
+        const double direction = random.Radian();
+        const double length = random.Number(1, 4);
+        check(a, At(a.x + length * std::cos(direction), a.y + length * std::sin(direction)), random.Point(4));
     }
 }
 
 TEST(DistanceLaws, A14_TheDistanceToAStretchIsThatOfItsNearestPoint)
 {
     const double rounding = 16 * Unit * 8;
+    const auto check = [&](const DPOINT2& a, const DPOINT2& b, const DPOINT2& point) {
+        const double distance = MinDistanceToLine(point, a, b);
+        ASSERT_TRUE(Near(MinDistanceToLine(point, b, a), distance, rounding));
+        // The foot of the perpendicular, held to the stretch.
+        const DPOINT2 along = At(b.x - a.x, b.y - a.y);
+        const double square = along.x * along.x + along.y * along.y;
+        const double dot = (point.x - a.x) * along.x + (point.y - a.y) * along.y;
+        const double ratio = square == 0 ? 0 : std::clamp(dot / square, 0.0, 1.0);
+        const DPOINT2 nearest = At(a.x + along.x * ratio, a.y + along.y * ratio);
+        ASSERT_TRUE(Near(distance, Distance(point, nearest), rounding));
+        ASSERT_TRUE(Near(MinDistanceToLine(Moved(point), Moved(a), Moved(b)), distance, 16 * Unit * 64));
+    };
     for (const DPOINT2& a : Lattice(3))
     {
         for (const DPOINT2& b : Lattice(3))
         {
             for (const DPOINT2& point : Lattice(5))
             {
-                const double distance = MinDistanceToLine(point, a, b);
-                ASSERT_TRUE(Near(MinDistanceToLine(point, b, a), distance, rounding));
-                // The foot of the perpendicular, held to the stretch.
-                const DPOINT2 along = At(b.x - a.x, b.y - a.y);
-                const double square = along.x * along.x + along.y * along.y;
-                const double dot = (point.x - a.x) * along.x + (point.y - a.y) * along.y;
-                const double ratio = square == 0 ? 0 : std::clamp(dot / square, 0.0, 1.0);
-                const DPOINT2 nearest = At(a.x + along.x * ratio, a.y + along.y * ratio);
-                ASSERT_TRUE(Near(distance, Distance(point, nearest), rounding));
-                ASSERT_TRUE(Near(MinDistanceToLine(Moved(point), Moved(a), Moved(b)), distance, 16 * Unit * 64));
+                check(a, b, point);
             }
         }
+    }
+    Random random(14);
+    for (int round = 0; round < 5000; ++round)
+    {
+        const DPOINT2 a = random.Point(5);
+        const DPOINT2 b = random.Point(5);
+        check(a, b, random.Point(5));
     }
 }
 
@@ -265,77 +321,101 @@ TEST(DistanceLaws, A16_AFrameThereAndBackIsTheIdentityAndKeepsDistances)
 
 // Arcs and circles
 
-TEST(ArcLaws, A17_AnArcGoesFromBulgeToCentreFormAndBack)
+namespace
 {
+
+struct Chord
+{
+    DPOINT2 first;
+    DPOINT2 last;
+    double size; ///< of its bulge
+};
+
+/// From a whole point to all others nearby with every bulge of the grid, and chords and bulges at random.
+std::vector<Chord> GridChords()
+{
+    std::vector<Chord> chords;
     for (const DPOINT2& last : Lattice(4))
     {
         for (const double size : Bulges)
         {
-            for (const double bulge : {size, -size})
+            chords.push_back({At(2, 1), last, size});
+        }
+    }
+    Random random(17);
+    for (int i = 0; i < 5000; ++i)
+    {
+        const DPOINT2 first = random.Point(4);
+        chords.push_back({first, random.Point(4), random.Size(1e-4, 100)});
+    }
+    return chords;
+}
+
+} // namespace
+
+TEST(ArcLaws, A17_AnArcGoesFromBulgeToCentreFormAndBack)
+{
+    for (const auto& [first, last, size] : GridChords())
+    {
+        for (const double bulge : {size, -size})
+        {
+            DPOINT2 centre = Untouched();
+            double radius = UntouchedNumber();
+            double start = UntouchedNumber();
+            double sweep = UntouchedNumber();
+            const bool isArc = SolveArc(first, last, bulge, &centre, &radius, &start, &sweep);
+            ASSERT_EQ(isArc, !(last == first));
+            if (!isArc)
             {
-                DPOINT2 centre = Untouched();
-                double radius = UntouchedNumber();
-                double start = UntouchedNumber();
-                double sweep = UntouchedNumber();
-                const DPOINT2 first = At(2, 1);
-                const bool isArc = SolveArc(first, last, bulge, &centre, &radius, &start, &sweep);
-                ASSERT_EQ(isArc, !(last == first));
-                if (!isArc)
-                {
-                    ASSERT_EQ(centre, Untouched());
-                    continue;
-                }
-                // The radius grows with the lesser of bulge and its inverse; the centre carries its rounding.
-                const double rounding = 24 * Unit * (size + 1 / size) * 8;
-                const RoundArc arc{centre, radius, start, sweep};
-                ASSERT_TRUE(Near(arc.PointAt(0), first, rounding)) << bulge;
-                ASSERT_TRUE(Near(arc.PointAt(1), last, rounding)) << bulge;
-                ASSERT_TRUE(Near(GetBulge(start, start + sweep), bulge, 24 * Unit * (1 + size) * (1 + size))) << bulge;
-                ASSERT_TRUE(start >= 0 && start < TwoPi);
-                ASSERT_EQ(sweep > 0, bulge > 0);
-                ASSERT_LT(std::abs(sweep), TwoPi);
-                ASSERT_TRUE(Near(centre, CentreOfArc(first, last, bulge), rounding)) << bulge;
+                ASSERT_EQ(centre, Untouched());
+                continue;
             }
+            // The radius grows with the lesser of bulge and its inverse; the centre carries its rounding.
+            const double rounding = 24 * Unit * (size + 1 / size) * 8;
+            const RoundArc arc{centre, radius, start, sweep};
+            ASSERT_TRUE(Near(arc.PointAt(0), first, rounding)) << bulge;
+            ASSERT_TRUE(Near(arc.PointAt(1), last, rounding)) << bulge;
+            ASSERT_TRUE(Near(GetBulge(start, start + sweep), bulge, 24 * Unit * (1 + size) * (1 + size))) << bulge;
+            ASSERT_TRUE(start >= 0 && start < TwoPi);
+            ASSERT_EQ(sweep > 0, bulge > 0);
+            ASSERT_LT(std::abs(sweep), TwoPi);
+            ASSERT_TRUE(Near(centre, CentreOfArc(first, last, bulge), rounding)) << bulge;
         }
     }
 }
 
 TEST(ArcLaws, A18_AnArcTurnedRoundAndItsComplementLieOnOneCircle)
 {
-    for (const DPOINT2& last : Lattice(4))
+    for (const auto& [first, last, size] : GridChords())
     {
-        for (const double size : Bulges)
+        if (last == first)
         {
-            const DPOINT2 first = At(2, 1);
-            if (last == first)
-            {
-                continue;
-            }
-            DPOINT2 centre;
-            DPOINT2 turnedCentre;
-            DPOINT2 otherCentre;
-            double radius = 0;
-            double turnedRadius = 0;
-            double otherRadius = 0;
-            double sweep = 0;
-            double turnedSweep = 0;
-            double otherSweep = 0;
-            double start = 0;
-            SolveArc(first, last, size, &centre, &radius, &start, &sweep);
-            SolveArc(last, first, -size, &turnedCentre, &turnedRadius, &start, &turnedSweep);
-            SolveArc(first, last, -1 / size, &otherCentre, &otherRadius, &start, &otherSweep);
-            const double rounding = 24 * Unit * (size + 1 / size) * 8;
-            ASSERT_TRUE(Near(turnedCentre, centre, rounding)) << size;
-            ASSERT_EQ(turnedRadius, radius) << size;
-            ASSERT_EQ(turnedSweep, -sweep) << size;
-            // The way round the other side has the inverse bulge, negated; both sweeps make a full turn.
-            // One of the two is nearly a full turn: its radius is the chord over a sine next to π, which holds the
-            // rounding of the sweep over (b + 1 / b) / 2, times a radius of the size of that.
-            const double nearFullTurn = 4 * Unit * (size + 1 / size) * (size + 1 / size) * Distance(first, last);
-            ASSERT_TRUE(Near(otherCentre, centre, rounding + nearFullTurn)) << size;
-            ASSERT_TRUE(Near(otherRadius, radius, rounding + nearFullTurn)) << size;
-            ASSERT_TRUE(Near(sweep - otherSweep, TwoPi, 8 * Unit * TwoPi)) << size;
+            continue;
         }
+        DPOINT2 centre;
+        DPOINT2 turnedCentre;
+        DPOINT2 otherCentre;
+        double radius = 0;
+        double turnedRadius = 0;
+        double otherRadius = 0;
+        double sweep = 0;
+        double turnedSweep = 0;
+        double otherSweep = 0;
+        double start = 0;
+        SolveArc(first, last, size, &centre, &radius, &start, &sweep);
+        SolveArc(last, first, -size, &turnedCentre, &turnedRadius, &start, &turnedSweep);
+        SolveArc(first, last, -1 / size, &otherCentre, &otherRadius, &start, &otherSweep);
+        const double rounding = 24 * Unit * (size + 1 / size) * 8;
+        ASSERT_TRUE(Near(turnedCentre, centre, rounding)) << size;
+        ASSERT_EQ(turnedRadius, radius) << size;
+        ASSERT_EQ(turnedSweep, -sweep) << size;
+        // The way round the other side has the inverse bulge, negated; both sweeps make a full turn.
+        // One of the two is nearly a full turn: its radius is the chord over a sine next to π, which holds the
+        // rounding of the sweep over (b + 1 / b) / 2, times a radius of the size of that.
+        const double nearFullTurn = 4 * Unit * (size + 1 / size) * (size + 1 / size) * Distance(first, last);
+        ASSERT_TRUE(Near(otherCentre, centre, rounding + nearFullTurn)) << size;
+        ASSERT_TRUE(Near(otherRadius, radius, rounding + nearFullTurn)) << size;
+        ASSERT_TRUE(Near(sweep - otherSweep, TwoPi, 8 * Unit * TwoPi)) << size;
     }
 }
 
@@ -366,6 +446,21 @@ TEST(ArcLaws, A19_ThreePointsMakeACircleThroughThemExceptOnOneLine)
                     ASSERT_TRUE(Near(Distance(centre, point), radius, 16 * Unit * 32 * (8 + radius)));
                 }
             }
+        }
+    }
+    Random random(19);
+    for (int round = 0; round < 5000; ++round)
+    {
+        const DPOINT2 a = random.Point(4);
+        const DPOINT2 b = random.Point(4);
+        const DPOINT2 c = random.Point(4);
+        DPOINT2 centre = Untouched();
+        double radius = UntouchedNumber();
+        ASSERT_TRUE(CreateCircleFrom3Point(a, b, c, &centre, &radius));
+        const double sine = std::abs(Cross(a, b, c)) / (Distance(a, b) * std::max(Distance(b, c), Distance(c, a)));
+        for (const DPOINT2& point : {a, b, c})
+        {
+            ASSERT_TRUE(Near(Distance(centre, point), radius, 16 * Unit / sine * (8 + radius)));
         }
     }
 }
@@ -452,6 +547,21 @@ TEST(PredicateLaws, A21_ASectorAndItsComplementPartTheDirections)
         }
     }
     EXPECT_EQ(atStarts, 50 * 51);
+    Random random(21);
+    for (int round = 0; round < 20000; ++round)
+    {
+        const double direction = random.Radian();
+        const double from = random.Radian();
+        const double over = random.Radian();
+        const double steps = direction >= from ? direction - from : direction - from + TwoPi;
+        if (std::abs(steps - over) > 1e-8 && std::abs(steps) > 1e-8)
+        {
+            ASSERT_EQ(IsAngleInSector(direction, from, over), steps < over) << Digits(direction);
+            ASSERT_EQ(IsAngleInSector(direction, from, over, true), steps < over) << Digits(direction);
+            ASSERT_EQ(IsAngleInSector(direction, from + over, over, false), steps < over) << Digits(direction);
+            ASSERT_EQ(IsAngleInSector(direction, from + over, TwoPi - over, true), steps > over) << Digits(direction);
+        }
+    }
 }
 
 TEST(PredicateLaws, A22_BothFormsOfAnArcHoldThePointsInItsSectorFromEitherEnd)
@@ -475,6 +585,23 @@ TEST(PredicateLaws, A22_BothFormsOfAnArcHoldThePointsInItsSectorFromEitherEnd)
                 ASSERT_EQ(IsPointInArc(point, arc.centre, arc.PointAt(1), arc.PointAt(0), !ccw), isOn);
                 ASSERT_FALSE(IsPointInArc(point, arc.centre, arc.radius + 1e-8, arc.start, extent, ccw));
             }
+        }
+    }
+    Random random(22);
+    for (const RoundArc& arc : GridArcs())
+    {
+        const double ratio = random.Number(0.001, 0.999);
+        const double rest = TwoPi - std::abs(arc.sweep);
+        const double beyond = std::abs(arc.sweep) + rest * ratio;
+        const DPOINT2 off = GetPointInCircle(arc.centre, arc.radius, arc.start + (arc.sweep > 0 ? beyond : -beyond));
+        for (const auto& [point, isOn] : {std::pair(arc.PointAt(ratio), true), std::pair(off, false)})
+        {
+            const bool ccw = arc.sweep > 0;
+            const double extent = std::abs(arc.sweep);
+            ASSERT_EQ(IsPointInArc(point, arc.centre, arc.radius, arc.start, extent, ccw), isOn);
+            ASSERT_EQ(IsPointInArc(point, arc.centre, arc.radius, arc.start + arc.sweep, extent, !ccw), isOn);
+            ASSERT_EQ(IsPointInArc(point, arc.centre, arc.PointAt(0), arc.PointAt(1), ccw), isOn);
+            ASSERT_EQ(IsPointInArc(point, arc.centre, arc.PointAt(1), arc.PointAt(0), !ccw), isOn);
         }
     }
 }
@@ -558,43 +685,51 @@ TEST(EllipseLaws, A25_APolarAngleGivesThePointOnItsRayExceptNextToTheVertical)
                 << Digits(direction);
         }
     }
-    EXPECT_EQ(opposite, 6 * 37 * 4); // two directions on either axis, on every ellipse
+    EXPECT_EQ(opposite, (6 * 37 + RandomOvals) * 4); // two directions on either axis, on every ellipse
 }
 
 TEST(EllipseLaws, A26_TheHeightOfAnArcIsItsGreatestDistanceFromTheChord)
 {
     constexpr int samples = 400;
+    const auto check = [](double a, double b, double from, double over) {
+        const double height = GetHeightOfEllipseArc(a, b, from, over);
+        const auto at = [&](double direction) {
+            const double size = 1 / std::hypot(std::cos(direction) / a, std::sin(direction) / b);
+            return At(size * std::cos(direction), size * std::sin(direction));
+        };
+        const DPOINT2 first = at(from);
+        const DPOINT2 last = at(from + over);
+        double greatest = 0;
+        for (int sample = 0; sample <= samples; ++sample)
+        {
+            const DPOINT2 point = at(from + over * sample / samples);
+            greatest = std::max(greatest, std::abs(Cross(first, last, point)) / Distance(first, last));
+        }
+        ASSERT_GE(height, greatest - 1e-12) << a << " " << b << " " << from << " " << over;
+        ASSERT_LE(height, greatest + 1e-2 * a) << a << " " << b << " " << from << " " << over;
+        // With the height of the rest of the ellipse it makes the width across the chord.
+        const double rest = GetHeightOfEllipseArc(a, b, RegularizeRadian(from + over), TwoPi - over);
+        const DPOINT2 chord = At(last.x - first.x, last.y - first.y);
+        const double width = 2 * std::hypot(a * chord.y, b * chord.x) / std::hypot(chord.x, chord.y);
+        ASSERT_TRUE(Near(height + rest, width, 1e-12)) << a << " " << b << " " << from << " " << over;
+    };
     for (const double a : {1.0, 2.0, 5.0})
     {
-        const double b = 1;
         for (int start = 0; start < 24; ++start)
         {
             for (int sweep = 1; sweep < 24; ++sweep)
             {
-                const double from = Pi * start / 12;
-                const double over = Pi * sweep / 12;
-                const double height = GetHeightOfEllipseArc(a, b, from, over);
-                const auto at = [&](double direction) {
-                    const double size = 1 / std::hypot(std::cos(direction) / a, std::sin(direction) / b);
-                    return At(size * std::cos(direction), size * std::sin(direction));
-                };
-                const DPOINT2 first = at(from);
-                const DPOINT2 last = at(from + over);
-                double greatest = 0;
-                for (int sample = 0; sample <= samples; ++sample)
-                {
-                    const DPOINT2 point = at(from + over * sample / samples);
-                    greatest = std::max(greatest, std::abs(Cross(first, last, point)) / Distance(first, last));
-                }
-                ASSERT_GE(height, greatest - 1e-12) << a << " " << start << " " << sweep;
-                ASSERT_LE(height, greatest + 1e-2 * a) << a << " " << start << " " << sweep;
-                // With the height of the rest of the ellipse it makes the width across the chord.
-                const double rest = GetHeightOfEllipseArc(a, b, RegularizeRadian(from + over), TwoPi - over);
-                const DPOINT2 chord = At(last.x - first.x, last.y - first.y);
-                const double width = 2 * std::hypot(a * chord.y, b * chord.x) / std::hypot(chord.x, chord.y);
-                ASSERT_TRUE(Near(height + rest, width, 1e-12)) << a << " " << start << " " << sweep;
+                check(a, 1, Pi * start / 12, Pi * sweep / 12);
             }
         }
+    }
+    Random random(26);
+    for (int round = 0; round < 500; ++round)
+    {
+        const double b = random.Size(0.5, 2);
+        const double a = b * random.Size(1, 5);
+        const double start = random.Radian();
+        check(a, b, start, random.Number(0.1, 6.1));
     }
 }
 
@@ -669,6 +804,12 @@ TEST(RecordLaws, A29_TheUnionOfBoxesIsTheLeastBoxThatHoldsBoth)
             boxes.push_back({corner.x, corner.y, extent.x, extent.y});
         }
     }
+    Random random(29);
+    for (int i = 0; i < 100; ++i)
+    {
+        const auto number = [&](int least) { return random.Integer(least, 1 << 20) / 1024.0; };
+        boxes.push_back({number(-(1 << 20)), number(-(1 << 20)), number(0), number(0)});
+    }
     const auto same = [](const DRECT& a, const DRECT& b) {
         return a.x == b.x && a.y == b.y && a.width == b.width && a.height == b.height;
     };
@@ -696,29 +837,39 @@ TEST(RecordLaws, A29_TheUnionOfBoxesIsTheLeastBoxThatHoldsBoth)
 TEST(RecordLaws, A30_AReducedFractionHasTheSameValueInLeastTermsExceptWithAZero)
 {
     int withZero = 0;
+    const auto check = [&](int numerator, int denominator) {
+        const int divisor = GetGreatestCommonDivisor(numerator, denominator);
+        ASSERT_EQ(GetGreatestCommonDivisorInt64(numerator, denominator), divisor);
+        const bool hasZero = numerator == 0 || denominator == 0;
+        withZero += hasZero ? 1 : 0;
+        ASSERT_EQ(std::abs(divisor), hasZero ? 1 : std::gcd(numerator, denominator));
+        int n = numerator;
+        int d = denominator;
+        Reducify(n, d);
+        ASSERT_EQ(std::int64_t{n} * denominator, std::int64_t{numerator} * d);
+        ASSERT_EQ(n * divisor, numerator);
+        ASSERT_EQ(d * divisor, denominator);
+        std::int64_t wideN = numerator;
+        std::int64_t wideD = denominator;
+        ReducifyInt64(wideN, wideD);
+        ASSERT_EQ(wideN, n);
+        ASSERT_EQ(wideD, d);
+    };
     for (int numerator = -24; numerator <= 24; ++numerator)
     {
         for (int denominator = -24; denominator <= 24; ++denominator)
         {
-            const int divisor = GetGreatestCommonDivisor(numerator, denominator);
-            ASSERT_EQ(GetGreatestCommonDivisorInt64(numerator, denominator), divisor);
-            const bool hasZero = numerator == 0 || denominator == 0;
-            withZero += hasZero ? 1 : 0;
-            ASSERT_EQ(std::abs(divisor), hasZero ? 1 : std::gcd(numerator, denominator));
-            int n = numerator;
-            int d = denominator;
-            Reducify(n, d);
-            ASSERT_EQ(n * denominator, numerator * d);
-            ASSERT_EQ(n * divisor, numerator);
-            ASSERT_EQ(d * divisor, denominator);
-            std::int64_t wideN = numerator;
-            std::int64_t wideD = denominator;
-            ReducifyInt64(wideN, wideD);
-            ASSERT_EQ(wideN, n);
-            ASSERT_EQ(wideD, d);
+            check(numerator, denominator);
         }
     }
     EXPECT_EQ(withZero, 49 + 48);
+    Random random(30);
+    for (int round = 0; round < 5000; ++round)
+    {
+        const int factor = random.Integer(1, 1000);
+        const int numerator = random.Integer(-1000000, 1000000) * factor;
+        check(numerator, random.Integer(-1000000, 1000000) * factor);
+    }
 }
 
 // The exact kernel
@@ -731,39 +882,60 @@ TEST(KernelLaws, A31_TheParametersOfAPointLeadToItOnEitherCurve)
     };
     const auto placeOf = [](const IntAna2d_IntPoint& point) { return At(point.X(), point.Y()); };
     int points = 0;
+    // The direction 0 may come out as a whole turn where a sum is folded once.
+    const auto isParameter = [](double parameter) { return parameter >= 0 && parameter <= TwoPi; };
+    const auto checkLine = [&](const DPOINT2& start, const DPOINT2& along, const DPOINT2& centre, double radius) {
+        const double length = std::hypot(along.x, along.y);
+        const IntAna2d_AnaIntersection meeting(gp_Lin2d(gp_Pnt2d(start.x, start.y), gp_Dir2d(along.x, along.y)),
+                                               CircleAt(centre, radius));
+        for (int n = 1; n <= meeting.PointCount(); ++n)
+        {
+            ++points;
+            const IntAna2d_IntPoint& point = meeting.Point(n);
+            const double ahead = point.ParamOnFirst() / length;
+            ASSERT_TRUE(Near(At(start.x + ahead * along.x, start.y + ahead * along.y), placeOf(point), rounding));
+            ASSERT_TRUE(isParameter(point.ParamOnSecond()));
+            ASSERT_TRUE(Near(onCircle(centre, radius, point.ParamOnSecond()), placeOf(point), rounding));
+        }
+    };
+    const auto checkCircles = [&](const DPOINT2& centre, double radius, const DPOINT2& other, double otherRadius,
+                                  double magnified) {
+        const IntAna2d_AnaIntersection meeting(CircleAt(centre, radius), CircleAt(other, otherRadius));
+        for (int n = 1; n <= meeting.PointCount(); ++n)
+        {
+            ++points;
+            const IntAna2d_IntPoint& point = meeting.Point(n);
+            ASSERT_TRUE(Near(onCircle(centre, radius, point.ParamOnFirst()), placeOf(point), rounding * magnified));
+            ASSERT_TRUE(
+                Near(onCircle(other, otherRadius, point.ParamOnSecond()), placeOf(point), rounding * magnified));
+            ASSERT_TRUE(isParameter(point.ParamOnFirst()));
+            ASSERT_TRUE(isParameter(point.ParamOnSecond()));
+        }
+    };
     for (const DPOINT2& centre : Lattice(3))
     {
         for (const double radius : {0.5, 1.0, 2.0})
         {
-            const gp_Circ2d circle = CircleAt(centre, radius);
             for (const DPOINT2& along : {At(1, 0), At(0, -1), At(1, 1), At(-1, 2), At(-3, -4)})
             {
-                const gp_Lin2d line(gp_Pnt2d(1, 2), gp_Dir2d(along.x, along.y));
-                const double length = std::hypot(along.x, along.y);
-                const IntAna2d_AnaIntersection meeting(line, circle);
-                for (int n = 1; n <= meeting.PointCount(); ++n)
-                {
-                    ++points;
-                    const IntAna2d_IntPoint& point = meeting.Point(n);
-                    const double ahead = point.ParamOnFirst() / length;
-                    ASSERT_TRUE(Near(At(1 + ahead * along.x, 2 + ahead * along.y), placeOf(point), rounding));
-                    ASSERT_TRUE(point.ParamOnSecond() >= 0 && point.ParamOnSecond() <= TwoPi);
-                    ASSERT_TRUE(Near(onCircle(centre, radius, point.ParamOnSecond()), placeOf(point), rounding));
-                }
+                checkLine(At(1, 2), along, centre, radius);
             }
-            const DPOINT2 other = At(1, 1);
-            const IntAna2d_AnaIntersection meeting(circle, CircleAt(other, 1));
-            for (int n = 1; n <= meeting.PointCount(); ++n)
-            {
-                ++points;
-                const IntAna2d_IntPoint& point = meeting.Point(n);
-                ASSERT_TRUE(Near(onCircle(centre, radius, point.ParamOnFirst()), placeOf(point), rounding));
-                ASSERT_TRUE(Near(onCircle(other, 1, point.ParamOnSecond()), placeOf(point), rounding));
-                // The direction 0 may come out as a whole turn where a sum is folded once.
-                ASSERT_TRUE(point.ParamOnFirst() >= 0 && point.ParamOnFirst() <= TwoPi);
-                ASSERT_TRUE(point.ParamOnSecond() >= 0 && point.ParamOnSecond() <= TwoPi);
-            }
+            checkCircles(centre, radius, At(1, 1), 1, 1);
         }
     }
     EXPECT_GT(points, 300);
+    Random random(31);
+    for (int round = 0; round < 5000; ++round)
+    {
+        const DPOINT2 start = random.Point(3);
+        const DPOINT2 along = random.Point(3);
+        const DPOINT2 centre = random.Point(3);
+        const double radius = random.Size(0.25, 4);
+        checkLine(start, along, centre, radius);
+        const double direction = random.Radian();
+        const double distance = random.Number(0.5, 3);
+        const DPOINT2 other = At(centre.x + distance * std::cos(direction), centre.y + distance * std::sin(direction));
+        checkCircles(centre, radius, other, random.Size(0.25, 4), 16);
+    }
+    EXPECT_GT(points, 5000);
 }

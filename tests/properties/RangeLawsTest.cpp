@@ -590,35 +590,136 @@ TEST(RangeLaws, R21_TheProductIsAssociativeWhereNoTwoMeetTwice)
 
 // Random ranges
 
-TEST(RangeLaws, R22_TheLawsOfDifferenceProductAndUnionHoldBetweenTheQuartersToo)
+namespace
 {
-    Random random(122);
-    const auto covers = [](const std::vector<PosRangeD>& pieces, double position) {
-        return std::any_of(pieces.begin(), pieces.end(),
-                           [&](const PosRangeD& piece) { return piece.IsContain(position); });
-    };
-    int seenTwice = 0;
-    for (int round = 0; round < 10000; ++round)
+
+/// Two ranges on an outline at random, and a position that is near none of their ends.
+struct Meeting
+{
+    int count;
+    PosRangeD a;
+    PosRangeD b;
+    double position;
+
+    bool IsInA() const
+    {
+        return a.IsContain(position);
+    }
+
+    bool IsInB() const
+    {
+        return b.IsContain(position);
+    }
+
+    /// The position lies where the two meet a second time.
+    bool IsSecond() const
+    {
+        return MeetTwice(a, b) &&
+               ((position > b.start && position < a.end) || (position > a.start && position < b.end));
+    }
+
+    /// With the start of the numbering moved to a node.
+    Meeting BegunAt(int node) const
+    {
+        const auto moved = [&](double value) { return value < node ? value - node + count : value - node; };
+        return {count, PosRangeD(moved(a.start), moved(a.end)), PosRangeD(moved(b.start), moved(b.end)),
+                moved(position)};
+    }
+
+    Meeting TurnedRound() const
+    {
+        return {count, a.Reverse(count), b.Reverse(count), count - position};
+    }
+
+    friend std::ostream& operator<<(std::ostream& out, const Meeting& meeting)
+    {
+        return out << Told(meeting.a, meeting.b) << " at " << Text(meeting.position) << " on " << meeting.count;
+    }
+};
+
+template <typename Visit>
+void ForMeetingsAtRandom(std::uint64_t seed, Visit visit)
+{
+    Random random(seed);
+    for (int round = 0; round < 10000 && !testing::Test::HasFailure(); ++round)
     {
         const int count = random.Integer(1, 9);
-        const PosRangeD a(random.Number(0, count), random.Number(0, count));
-        const PosRangeD b(random.Number(0, count), random.Number(0, count));
-        const double position = random.Number(0, count);
+        const auto place = [&] { return random.Number(0, count); };
+        const PosRangeD a(place(), place());
+        const PosRangeD b(place(), place());
+        const double position = place();
         const std::vector<double> ends = {a.start, a.end, b.start, b.end};
         const bool isAtEnd = std::any_of(ends.begin(), ends.end(),
                                          [&](double end) { return std::fabs(end - position) < 2 * Tolerance; });
-        if (isAtEnd)
+        if (!isAtEnd)
         {
-            continue;
+            visit(Meeting{count, a, b, position});
         }
-        const bool inA = a.IsContain(position);
-        const bool inB = b.IsContain(position);
-        const bool isSecond =
-            MeetTwice(a, b) && ((position > b.start && position < a.end) || (position > a.start && position < b.end));
-        seenTwice += isSecond ? 1 : 0;
-        EXPECT_EQ(covers(a * b, position), inA && inB && !isSecond) << Told(a, b) << " at " << Text(position);
-        EXPECT_EQ(covers(a - b, position), inA && (!inB || isSecond)) << Told(a, b) << " at " << Text(position);
-        EXPECT_EQ(covers(a + b, position), inA || inB) << Told(a, b) << " at " << Text(position);
     }
+}
+
+/// How many of the pieces cover the position.
+std::ptrdiff_t Covering(const std::vector<PosRangeD>& pieces, double position)
+{
+    return std::count_if(pieces.begin(), pieces.end(),
+                         [&](const PosRangeD& piece) { return piece.IsContain(position); });
+}
+
+} // namespace
+
+TEST(RangeLaws, R22_TheLawsOfDifferenceProductAndUnionHoldBetweenTheQuartersToo)
+{
+    int seenTwice = 0;
+    ForMeetingsAtRandom(122, [&](const Meeting& at) {
+        seenTwice += at.IsSecond() ? 1 : 0;
+        const bool inBoth = at.IsInA() && at.IsInB();
+        const auto inProduct = Covering(at.a * at.b, at.position);
+        const auto inDifference = Covering(at.a - at.b, at.position);
+        EXPECT_EQ(inProduct, inBoth && !at.IsSecond() ? 1 : 0) << at;
+        EXPECT_EQ(inDifference, at.IsInA() && (!at.IsInB() || at.IsSecond()) ? 1 : 0) << at;
+        EXPECT_EQ(inProduct + inDifference, at.IsInA() ? 1 : 0)
+            << at; // each place of the first in one piece of one list
+        EXPECT_EQ(Covering(at.a + at.b, at.position) > 0, at.IsInA() || at.IsInB()) << at;
+        EXPECT_TRUE(AreEqualLists(at.a * at.b, at.b * at.a)) << at;
+    });
     EXPECT_GT(seenTwice, 100);
+}
+
+TEST(RangeLaws, R23_ComplementsCutsAndMovedOrTurnedOutlinesFollowTheirLawsAtRandomToo)
+{
+    int movedMeetings = 0;
+    ForMeetingsAtRandom(123, [&](const Meeting& at) {
+        const PosRangeD rest = at.b.Complementary();
+        EXPECT_NE(rest.IsContain(at.position), at.IsInB()) << at;
+        EXPECT_TRUE(at.b.IsComplementary(rest) && Two(rest.Complementary()) == Two(at.b)) << at;
+        if (!MeetTwice(at.a, at.b) && !MeetTwice(at.a, rest))
+        {
+            EXPECT_EQ(Covering(at.a - at.b, at.position), Covering(at.a * rest, at.position)) << at;
+        }
+        const std::vector<PosRangeD> pieces = PosRangeD(at.a).Splite(at.position);
+        ASSERT_EQ(pieces.size(), at.IsInA() ? 2U : 1U) << at;
+        EXPECT_EQ(Two(pieces.front().start, pieces.back().end), Two(at.a)) << at;
+        const Meeting turned = at.TurnedRound();
+        EXPECT_EQ(turned.IsInA(), at.IsInA()) << at;
+        EXPECT_EQ(Covering(turned.a * turned.b, turned.position), Covering(at.a * at.b, at.position)) << at;
+        EXPECT_EQ(Covering(turned.a - turned.b, turned.position), Covering(at.a - at.b, at.position)) << at;
+        EXPECT_EQ(Covering(turned.a + turned.b, turned.position) > 0, Covering(at.a + at.b, at.position) > 0) << at;
+        EXPECT_EQ(turned.a.IsContain(turned.b), at.a.IsContain(at.b)) << at;
+        EXPECT_EQ(turned.a.IsOverlap(turned.b), at.a.IsOverlap(at.b)) << at;
+        for (int node = 1; node < at.count; ++node)
+        {
+            const Meeting later = at.BegunAt(node);
+            const bool isException = at.IsSecond() != later.IsSecond();
+            movedMeetings += isException ? 1 : 0;
+            EXPECT_EQ(later.IsInA(), at.IsInA()) << at << " begun at " << node;
+            EXPECT_EQ(Covering(later.a * later.b, later.position) == Covering(at.a * at.b, at.position), !isException)
+                << at << " begun at " << node;
+            EXPECT_EQ(Covering(later.a - later.b, later.position) == Covering(at.a - at.b, at.position), !isException)
+                << at << " begun at " << node;
+            EXPECT_EQ(Covering(later.a + later.b, later.position) > 0, at.IsInA() || at.IsInB()) << at;
+            EXPECT_EQ(later.a.IsContain(later.b), at.a.IsContain(at.b)) << at << " begun at " << node;
+            EXPECT_EQ(later.a.IsOverlap(later.b), at.a.IsOverlap(at.b)) << at << " begun at " << node;
+        }
+    });
+    EXPECT_GT(movedMeetings, 100);
 }
