@@ -201,6 +201,21 @@ TEST(EllipseIntersectionLaws, I17_LineAndEllipseToldAnotherWayMeetInTheSamePoint
             ASSERT_TRUE(SameAnswer(Meet(turned, b), met, tolerance));
         }
     }
+    Random random(17);
+    for (int round = 0; round < 5000; ++round)
+    {
+        const Beeline a{random.Point(2), random.Number(-7, 7)};
+        const Ellipse b = RandomEllipse(random);
+        bool isClear = true;
+        BeelineMeetsEllipse(a, b, isClear);
+        if (isClear)
+        {
+            const Met met = Meet(a, b);
+            ASSERT_TRUE(SameAnswer(Meet(a, Ellipse{b.centre, b.a, b.b, b.rotation + Pi}), met, 1e-10));
+            ASSERT_TRUE(SameAnswer(Meet(a, Ellipse{b.centre, b.b, b.a, b.rotation + HalfPi}), met, 1e-10));
+            ASSERT_TRUE(SameAnswer(Meet(Beeline{a.point, a.angle + Pi}, b), met, 1e-10));
+        }
+    }
 }
 
 TEST(EllipseIntersectionLaws, I18_MovingTurningAndMirroringLineAndEllipseMovesThePoints)
@@ -215,6 +230,19 @@ TEST(EllipseIntersectionLaws, I18_MovingTurningAndMirroringLineAndEllipseMovesTh
                 const double tolerance = met.code == 1 ? ChordOfTolerance(b) : 4 * Rounding;
                 ASSERT_TRUE(SameAnswer(Meet(motion(a), motion(b)), {met.code, motion(met.points)}, tolerance));
             }
+        }
+    }
+    Random random(18);
+    for (int round = 0; round < 1000; ++round)
+    {
+        const Beeline a{random.Point(2), random.Number(-7, 7)};
+        const Ellipse b = RandomEllipse(random);
+        bool isClear = true;
+        BeelineMeetsEllipse(a, b, isClear);
+        const Met met = Meet(a, b);
+        for (const Motion& motion : AllMotions())
+        {
+            ASSERT_TRUE(!isClear || SameAnswer(Meet(motion(a), motion(b)), {met.code, motion(met.points)}, 1e-10));
         }
     }
 }
@@ -330,6 +358,14 @@ TEST(EllipseIntersectionLaws, I23_OneAndTheSameEllipseIsToldExceptForWholeTurns)
         {
             ASSERT_EQ(Meet(Circle{e.centre, e.a}, e).code, -1);
         }
+    }
+    Random random(23);
+    for (int round = 0; round < 500; ++round)
+    {
+        const Ellipse e = RandomEllipse(random);
+        ASSERT_EQ(Meet(e, e).code, -1);
+        ASSERT_EQ(Meet(e, Ellipse{e.centre, e.a, e.b, e.rotation + Pi}).code, -1);
+        ASSERT_NE(Meet(e, Ellipse{e.centre, e.a, e.b, e.rotation + TwoPi}).code, -1);
     }
 }
 

@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <vector>
 
@@ -355,6 +356,79 @@ void ForAll(const std::vector<First>& first, const std::vector<Second>& second, 
     }
 }
 
+// ---- Curves at random ----
+
+/// As exact as points of random curves are: beside a tangency a rounding of the line moves them by its root.
+constexpr double RandomTolerance = 1e-6;
+
+Beeline RandomBeeline(Random& random)
+{
+    const DPOINT2 point = random.Point(4.0);
+    return {point, random.Number(-7, 7)};
+}
+
+/// Directions that cross clearly: the meeting of others is far away, and known less well.
+bool CrossClearly(const Beeline& a, const Beeline& b)
+{
+    return std::abs(std::sin(a.angle - b.angle)) > 1e-2;
+}
+
+/// Runs a check on pairs of every two kinds of curves.
+template <class Check>
+void ForRandomPairs(std::uint64_t seed, const Check& check)
+{
+    Random random(seed);
+    for (int round = 0; round < 2000 && !::testing::Test::HasFatalFailure(); ++round)
+    {
+        const Beeline beeline = RandomBeeline(random);
+        const Beeline other = RandomBeeline(random);
+        const Stretch stretch = RandomStretch(random);
+        const Arc arc = RandomArc(random);
+        const Arc otherArc = RandomArc(random);
+        if (CrossClearly(beeline, other))
+        {
+            check(beeline, other);
+        }
+        check(beeline, stretch);
+        check(stretch, RandomStretch(random));
+        check(beeline, CircleOf(arc));
+        check(beeline, arc);
+        check(stretch, CircleOf(arc));
+        check(stretch, arc);
+        check(CircleOf(otherArc), CircleOf(arc));
+        check(CircleOf(otherArc), arc);
+        check(otherArc, arc);
+    }
+}
+
+/// A point that is so near an end of the arc that rounding may decide.
+bool IsNearAnEnd(const std::vector<DPOINT2>& points, const Arc& arc)
+{
+    return std::any_of(points.begin(), points.end(), [&](const DPOINT2& point) {
+        const double along = AngleOnArc(point, arc);
+        return std::abs(along - std::abs(arc.sweep)) < 1e-5 || along < 1e-5 || along > TwoPi - 1e-5;
+    });
+}
+
+bool IsNearAnEnd(const std::vector<DPOINT2>& points, const Stretch& stretch)
+{
+    return std::any_of(points.begin(), points.end(), [&](const DPOINT2& point) {
+        return DistanceOf(point, stretch.first) < 1e-5 || DistanceOf(point, stretch.second) < 1e-5;
+    });
+}
+
+DPOINT2 RandomWholePoint(Random& random)
+{
+    const int x = random.Integer(-30, 30);
+    return At(x, random.Integer(-30, 30));
+}
+
+Circle RandomWholeCircle(Random& random)
+{
+    const DPOINT2 centre = RandomWholePoint(random);
+    return {centre, 0.5 * random.Integer(1, 60)};
+}
+
 std::vector<Arc> ToArcs(const std::vector<OctantArc>& octants)
 {
     std::vector<Arc> arcs;
@@ -413,6 +487,24 @@ TEST(IntersectionLaws, I2_TheQuickTestOfTwoStretchesIsExactAndServesPointsToo)
     ForAll(GridStretches(true), GridStretches(true), [](const Stretch& a, const Stretch& b) {
         ASSERT_TRUE(QuickTestGives(Meeting(a, b), HaveCommonPoint(a, b) ? 1 : 0));
     });
+    // Whole coordinates at random, with common ends, ends inside and stretches of no length.
+    Random random(18);
+    int common = 0;
+    for (int round = 0; round < 20000; ++round)
+    {
+        const Stretch a{RandomWholePoint(random), RandomWholePoint(random)};
+        const DPOINT2 first = random.Coin() ? a.second : RandomWholePoint(random);
+        const Stretch b{first, random.Integer(0, 9) == 0 ? first : RandomWholePoint(random)};
+        const Stretch beyond{At((a.first.x + a.second.x) / 2, (a.first.y + a.second.y) / 2), b.second};
+        for (const Stretch& other : {b, beyond})
+        {
+            common += HaveCommonPoint(a, other) ? 1 : 0;
+            ASSERT_TRUE(QuickTestGives(Meeting(a, other), HaveCommonPoint(a, other) ? 1 : 0))
+                << ::testing::PrintToString(a.first) << ::testing::PrintToString(a.second)
+                << ::testing::PrintToString(other.first) << ::testing::PrintToString(other.second);
+        }
+    }
+    EXPECT_TRUE(common > 20000 && common < 39000);
 }
 
 TEST(IntersectionLaws, I3_AStraightLineMeetsACircleAsExactArithmeticTells)
@@ -422,7 +514,7 @@ TEST(IntersectionLaws, I3_AStraightLineMeetsACircleAsExactArithmeticTells)
         const double cross = CrossOf(along, Minus(b.centre, a.point));
         ASSERT_EQ(Meet(a, b).code, CodeAtDistance(cross * cross / DotOf(along, along), b.radius));
     });
-    ForAll(GridStretches(false), GridCircles(), [](const Stretch& a, const Circle& b) {
+    const auto check = [](const Stretch& a, const Circle& b) {
         bool ignored = true;
         const std::vector<DPOINT2> onLine =
             LineMeetsCircle(a.first, Minus(a.second, a.first), b, ignored); // a tangency twice, or not at all
@@ -431,13 +523,44 @@ TEST(IntersectionLaws, I3_AStraightLineMeetsACircleAsExactArithmeticTells)
         const int ofLine = CodeAtDistance(cross * cross / DotOf(along, along), b.radius);
         const std::size_t kept = OnStretch(onLine, a).size();
         ASSERT_EQ(Meet(a, b).code, ofLine == 1 ? static_cast<int>(kept + 1) / 2 : static_cast<int>(kept));
-    });
+    };
+    ForAll(GridStretches(false), GridCircles(), check);
+    Random random(3);
+    for (int round = 0; round < 20000 && !HasFatalFailure(); ++round)
+    {
+        const Stretch a{RandomWholePoint(random), RandomWholePoint(random)};
+        const Circle b = RandomWholeCircle(random);
+        const DPOINT2 along = Minus(a.second, a.first);
+        const double cross = CrossOf(along, Minus(b.centre, a.first));
+        const bool isSlantedTangent =
+            cross * cross == DotOf(along, along) * b.radius * b.radius && along.x != 0 && along.y != 0;
+        if (!IsPoint(a) && !isSlantedTangent)
+        {
+            check(a, b);
+        }
+    }
 }
 
 TEST(IntersectionLaws, I4_TwoCirclesMeetAsExactArithmeticTells)
 {
     ForAll(GridCircles(), GridCircles(),
            [](const Circle& a, const Circle& b) { ASSERT_EQ(Meet(a, b).code, ExactCode(a, b)); });
+    Random random(4);
+    int codes[4] = {0, 0, 0, 0};
+    for (int round = 0; round < 20000; ++round)
+    {
+        const Circle a = RandomWholeCircle(random);
+        Circle b = RandomWholeCircle(random);
+        if (round % 4 == 0)
+        {
+            b.centre.y = a.centre.y; // whole distances, so that some touch
+        }
+        const int code = ExactCode(a, b);
+        ++codes[code + 1];
+        ASSERT_EQ(Meet(a, b).code, code) << ::testing::PrintToString(a.centre) << a.radius
+                                         << ::testing::PrintToString(b.centre) << b.radius;
+    }
+    EXPECT_TRUE(codes[1] > 1000 && codes[2] > 100 && codes[3] > 1000);
 }
 
 TEST(IntersectionLaws, I5_ArcsOfOneCircleOverlapOrShareEndsExceptAFirstInsideTheSecondAndWhereRoundingDecides)
@@ -489,6 +612,31 @@ TEST(IntersectionLaws, I6_OnStretchesAndArcsTheCommonPointsOfWholeCurvesRemain)
             ASSERT_TRUE(SameSet(Meet(a, b).points, OnArc(OnArc(whole, b), a), Rounding));
         }
     });
+    Random random(6);
+    int kept = 0;
+    for (int round = 0; round < 5000; ++round)
+    {
+        const Beeline beeline = RandomBeeline(random);
+        const Stretch stretch = RandomStretch(random);
+        const Arc a = RandomArc(random);
+        const Arc b = RandomArc(random);
+        const std::vector<DPOINT2> ofBeeline = Meet(beeline, CircleOf(b)).points;
+        const std::vector<DPOINT2> ofStretch = Meet(CarrierOf(stretch), CircleOf(b)).points;
+        const std::vector<DPOINT2> ofCircles = Meet(CircleOf(a), CircleOf(b)).points;
+        if (IsNearAnEnd(ofBeeline, b) || IsNearAnEnd(ofStretch, b) || IsNearAnEnd(ofStretch, stretch) ||
+            IsNearAnEnd(ofCircles, a) || IsNearAnEnd(ofCircles, b))
+        {
+            continue;
+        }
+        const std::vector<DPOINT2> onBoth = OnArc(OnArc(ofCircles, b), a);
+        kept += static_cast<int>(onBoth.size());
+        ASSERT_TRUE(SameSet(Meet(beeline, b).points, OnArc(ofBeeline, b), RandomTolerance));
+        ASSERT_TRUE(SameSet(Meet(stretch, CircleOf(b)).points, OnStretch(ofStretch, stretch), RandomTolerance));
+        ASSERT_TRUE(SameSet(Meet(stretch, b).points, OnStretch(OnArc(ofStretch, b), stretch), RandomTolerance));
+        ASSERT_TRUE(SameSet(Meet(CircleOf(a), b).points, OnArc(ofCircles, b), RandomTolerance));
+        ASSERT_TRUE(SameSet(Meet(a, b).points, onBoth, RandomTolerance));
+    }
+    EXPECT_GT(kept, 500);
 }
 
 // Points, orders, motions
@@ -555,7 +703,14 @@ TEST(IntersectionLaws, I8_ExchangedCurvesMeetInTheSamePointsExceptForArcsOfOneCi
     {
         const Arc a = RandomArc(random);
         const Arc b = RandomArc(random);
+        const Stretch s = RandomStretch(random);
+        const Stretch t = RandomStretch(random);
+        const Beeline m = RandomBeeline(random);
+        const Beeline n = RandomBeeline(random);
         ASSERT_TRUE(SameAnswer(Meet(b, a), Meet(a, b), 1e-9));
+        ASSERT_TRUE(SameAnswer(Meet(CircleOf(b), CircleOf(a)), Meet(CircleOf(a), CircleOf(b)), 1e-9));
+        ASSERT_TRUE(SameAnswer(Meet(t, s), Meet(s, t), 1e-9));
+        ASSERT_TRUE(!CrossClearly(m, n) || SameAnswer(Meet(n, m), Meet(m, n), 1e-9));
     }
 }
 
@@ -615,6 +770,24 @@ TEST(IntersectionLaws, I10_ACurveToldAnotherWayMeetsInTheSamePoints)
             ASSERT_TRUE(SameAnswer(Meet(a, otherWay(b)), Meet(a, b), 2 * Rounding));
         }
     });
+    Random random(10);
+    for (int round = 0; round < 5000; ++round)
+    {
+        const Stretch s = RandomStretch(random);
+        const Stretch t = RandomStretch(random);
+        const Beeline m = RandomBeeline(random);
+        const Beeline slidM{At(m.point.x + 2 * std::cos(m.angle), m.point.y + 2 * std::sin(m.angle)), m.angle - 3 * Pi};
+        const Arc a = RandomArc(random);
+        const Arc b = RandomArc(random);
+        ASSERT_TRUE(SameAnswer(Meet(turned(s), t), Meet(s, t), RandomTolerance));
+        ASSERT_TRUE(SameAnswer(Meet(slidM, t), Meet(m, t), RandomTolerance));
+        ASSERT_TRUE(SameAnswer(Meet(slidM, b), Meet(m, b), RandomTolerance));
+        ASSERT_TRUE(SameAnswer(Meet(slidM, CircleOf(b)), Meet(m, CircleOf(b)), RandomTolerance));
+        ASSERT_TRUE(SameAnswer(Meet(turned(s), CircleOf(b)), Meet(s, CircleOf(b)), RandomTolerance));
+        ASSERT_TRUE(SameAnswer(Meet(turned(s), otherWay(b)), Meet(s, b), RandomTolerance));
+        ASSERT_TRUE(SameAnswer(Meet(CircleOf(a), otherWay(b)), Meet(CircleOf(a), b), RandomTolerance));
+        ASSERT_TRUE(SameAnswer(Meet(otherWay(a), otherWay(b)), Meet(a, b), RandomTolerance));
+    }
 }
 
 TEST(IntersectionLaws, I11_MovingTurningAndMirroringBothCurvesMovesTheAnswer)
@@ -654,6 +827,13 @@ TEST(IntersectionLaws, I11_MovingTurningAndMirroringBothCurvesMovesTheAnswer)
             }
         }
     }
+    const std::vector<Motion> motions = AllMotions();
+    std::size_t next = 0;
+    ForRandomPairs(11, [&](const auto& a, const auto& b) {
+        const Motion& motion = motions[next++ % motions.size()];
+        const Met met = Meet(a, b);
+        ASSERT_TRUE(SameAnswer(Meet(motion(a), motion(b)), {met.code, motion(met.points)}, RandomTolerance));
+    });
 }
 
 // Forms and counts
@@ -690,6 +870,7 @@ TEST(IntersectionLaws, I12_PointerAndVectorFormsAgreeExceptWhereACircleCarriesAn
     });
     ForAll(arcs, arcs, check);
     EXPECT_EQ(static_cast<std::size_t>(carried), arcs.size()); // every arc of the grid lies on one circle of it
+    ForRandomPairs(12, check);
 }
 
 TEST(IntersectionLaws, I13_TheQuickCountsOfCirclesAreThoseOfTheFullFormWithTheirExceptions)
@@ -714,6 +895,15 @@ TEST(IntersectionLaws, I13_TheQuickCountsOfCirclesAreThoseOfTheFullFormWithTheir
     // about two neighbours of the origin reach the centre of that of radius 3, with radius 1, and two with radius 2.
     EXPECT_EQ(centreOnCircle, 24 * 3 + 12 * 5 + 4 + 4);
     EXPECT_EQ(innerTangency, 4 + 4); // in that of radius 3: radius 2 at a distance of 1, radius 1 at 2
+    Random random(13);
+    for (int round = 0; round < 5000; ++round)
+    {
+        const Beeline line = RandomBeeline(random);
+        const Circle a = CircleOf(RandomArc(random));
+        const Circle b = CircleOf(RandomArc(random));
+        ASSERT_TRUE(QuickTestGives(Meeting(line, a), Meet(line, a).code));
+        ASSERT_TRUE(QuickTestGives(Meeting(a, b), Meet(a, b).code));
+    }
 }
 
 TEST(IntersectionLaws, I14_ThePiecesOfAStretchOrAnArcMeetACurveWhereTheWholeDoes)
@@ -743,4 +933,23 @@ TEST(IntersectionLaws, I14_ThePiecesOfAStretchOrAnArcMeetACurveWhereTheWholeDoes
         const Arc last{whole.centre, whole.radius, whole.start + whole.sweep / 2, whole.sweep / 2};
         ASSERT_TRUE(SameSet(merged(Meet(a, first).points, Meet(a, last).points), Meet(a, whole).points, 2 * Rounding));
     });
+    Random random(14);
+    for (int round = 0; round < 5000; ++round)
+    {
+        const Arc a = RandomArc(random);
+        const Stretch s = RandomStretch(random);
+        const double ratio = random.Number(0.1, 0.9);
+        const DPOINT2 cut =
+            At(s.first.x + ratio * (s.second.x - s.first.x), s.first.y + ratio * (s.second.y - s.first.y));
+        const Arc first{a.centre, a.radius, a.start, a.sweep * ratio};
+        const Arc last{a.centre, a.radius, a.start + a.sweep * ratio, a.sweep * (1 - ratio)};
+        const Circle circle = CircleOf(RandomArc(random));
+        std::vector<DPOINT2> pieces =
+            merged(Meet(Stretch{s.first, cut}, circle).points, Meet(Stretch{cut, s.second}, circle).points);
+        ASSERT_TRUE(SameSet(pieces, Meet(s, circle).points, RandomTolerance));
+        pieces = merged(Meet(circle, first).points, Meet(circle, last).points);
+        ASSERT_TRUE(SameSet(pieces, Meet(circle, a).points, RandomTolerance));
+        pieces = merged(Meet(s, first).points, Meet(s, last).points);
+        ASSERT_TRUE(SameSet(pieces, Meet(s, a).points, RandomTolerance));
+    }
 }
