@@ -152,6 +152,19 @@ TEST(EquationLaws, E1_AQuadraticHasAsManyRootsAsItsDiscriminantTells)
         ASSERT_EQ(std::isnan(roots.first), roots.count == 0);
         ASSERT_EQ(std::isnan(roots.second), roots.count == 0 || equation.a == 0);
     }
+    int clear = 0;
+    for (const Quadratic& equation : RandomQuadratics())
+    {
+        const double scale = std::max({std::abs(equation.a), std::abs(equation.b), std::abs(equation.c)});
+        const double gap = Discriminant(equation) / (4 * equation.a) / scale;
+        if (std::abs(equation.a) / scale > 2e-9 && std::abs(gap) > 2e-9)
+        {
+            ++clear;
+            ASSERT_EQ(RootsOf(equation).count, Discriminant(equation) > 0 ? 2 : 0)
+                << Digits(equation.a) << " " << Digits(equation.b) << " " << Digits(equation.c);
+        }
+    }
+    EXPECT_GT(clear, 19000);
 }
 
 TEST(EquationLaws, E2_EveryRootSatisfiesTheEquationAndTheLargerComesFirst)
@@ -230,8 +243,7 @@ TEST(EquationLaws, E4_ScalingTheEquationAndMirroringItChangeNoBit)
 TEST(EquationLaws, E5_TheVectorFormHasTheRootsOfThePointerFormADoubleOneTwice)
 {
     int twice = 0;
-    for (const Quadratic& equation : GridQuadratics())
-    {
+    const auto check = [&](const Quadratic& equation) {
         const Roots roots = RootsOf(equation);
         std::vector<double> found = {UntouchedNumber()};
         ASSERT_EQ(SolveQuadraticEquation(equation.a, equation.b, equation.c, found), roots.count > 0);
@@ -245,13 +257,18 @@ TEST(EquationLaws, E5_TheVectorFormHasTheRootsOfThePointerFormADoubleOneTwice)
         }
         ASSERT_EQ(found, expected);
         twice += roots.count == 1 && found.size() == 3 ? 1 : 0;
-    }
+    };
     int squares = 0;
     for (const Quadratic& equation : GridQuadratics())
     {
+        check(equation);
         squares += equation.a != 0 && Discriminant(equation) == 0 ? 1 : 0;
     }
     EXPECT_EQ(twice, squares);
+    for (const Quadratic& equation : RandomQuadratics())
+    {
+        check(equation);
+    }
 }
 
 TEST(EquationLaws, E6_ACubicHasAsManyRootsAsItsDiscriminantTellsExceptNearATripleRoot)
@@ -334,5 +351,28 @@ TEST(EquationLaws, E8_ACubicFromItsRootsGivesThemAgain)
                 }
             }
         }
+    }
+    // At random, simple roots: the count of E6 and the residual of E7 too.
+    Random random(28);
+    for (int round = 0; round < 5000; ++round)
+    {
+        const double first = random.Number(-6, 6);
+        const double second = first + random.Number(0.1, 6);
+        const double third = second + random.Number(0.1, 6);
+        const double a = (random.Coin() ? 1 : -1) * random.Size(0.01, 100);
+        const Cubic equation{a, -a * (first + second + third), a * (first * second + second * third + third * first),
+                             -a * first * second * third};
+        std::vector<double> roots = RootsOf(equation);
+        std::vector<double> found;
+        ASSERT_TRUE(SolveCubicEquation(equation.a, equation.b, equation.c, equation.d, found));
+        ASSERT_EQ(found, roots);
+        ASSERT_EQ(roots.size(), 3U) << Digits(first) << " " << Digits(second) << " " << Digits(third);
+        std::sort(roots.begin(), roots.end());
+        // The value is below 1e-9, at a slope of the product of the distances to the others.
+        const double slopes[] = {(second - first) * (third - first), (second - first) * (third - second),
+                                 (third - first) * (third - second)};
+        ASSERT_TRUE(Near(roots[0], first, 2e-9 / slopes[0]) && Near(roots[1], second, 2e-9 / slopes[1]) &&
+                    Near(roots[2], third, 2e-9 / slopes[2]))
+            << Digits(first) << " " << Digits(second) << " " << Digits(third);
     }
 }

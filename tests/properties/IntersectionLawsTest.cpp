@@ -587,6 +587,46 @@ TEST(IntersectionLaws, I5_ArcsOfOneCircleOverlapOrShareEndsExceptAFirstInsideThe
             << code << ": " << a.start << " " << a.sweep << ", " << b.start << " " << b.sweep;
     });
     EXPECT_EQ(decidedByRounding, 651); // by sums of doubles alone, so everywhere the same
+    // At random, run either way, ends well apart.
+    Random random(5);
+    int overlaps = 0;
+    for (int round = 0; round < 20000; ++round)
+    {
+        const DPOINT2 centre = random.Point(2);
+        const double radius = random.Size(0.25, 4);
+        const auto arcOfLength = [&] {
+            const double start = random.Radian();
+            const double sweep = random.Number(0.1, 6.1);
+            return Arc{centre, radius, start, sweep};
+        };
+        const auto either = [&](const Arc& arc) {
+            return random.Coin() ? arc : Arc{arc.centre, arc.radius, Folded(arc.start + arc.sweep), -arc.sweep};
+        };
+        const Arc a = arcOfLength();
+        const Arc b = arcOfLength();
+        const double ahead = Folded(b.start - a.start); // from the start of the first to that of the second
+        const double behind = TwoPi - ahead;
+        const double gaps[] = {ahead,
+                               behind,
+                               ahead - a.sweep,
+                               ahead + b.sweep - TwoPi,
+                               ahead + b.sweep - TwoPi - a.sweep,
+                               a.start + a.sweep - TwoPi,
+                               b.start + b.sweep - TwoPi};
+        if (std::any_of(std::begin(gaps), std::end(gaps), [](double gap) { return std::abs(gap) < 1e-6; }))
+        {
+            continue;
+        }
+        const bool share = ahead < a.sweep || behind < b.sweep;
+        const bool isInside = behind + a.sweep < b.sweep;
+        const bool holdsOther = ahead + b.sweep < a.sweep;
+        overlaps += share && !isInside ? 1 : 0;
+        const int code = Meet(either(a), either(b)).code;
+        ASSERT_EQ(code, share && !isInside ? -1 : 0)
+            << Digits(a.start) << " " << Digits(a.sweep) << ", " << Digits(b.start) << " " << Digits(b.sweep);
+        ASSERT_EQ(Meet(either(b), either(a)).code, share && !holdsOther ? -1 : 0) << Digits(a.start);
+    }
+    EXPECT_GT(overlaps, 5000);
 }
 
 TEST(IntersectionLaws, I6_OnStretchesAndArcsTheCommonPointsOfWholeCurvesRemain)

@@ -11,7 +11,7 @@ using namespace math::test;
 
 // The laws of one map, numbered as in docs/maps.md. The grid: all normal maps of up to four joints on whole positions of
 // two closed outlines of two segments, and all of up to three joints on halves. On whole positions every slope is a power
-// of two or 0, so everything is exact.
+// of two or 0, so everything is exact. After either come maps at random with more joints in smaller parts.
 
 namespace
 {
@@ -20,13 +20,13 @@ constexpr int Count = 2;
 
 const std::vector<CPolyPosMap>& Grid()
 {
-    static const std::vector<CPolyPosMap> maps = AllMapsUpTo(4, Count, Count, 1.0);
+    static const std::vector<CPolyPosMap> maps = WithFineMaps(AllMapsUpTo(4, Count, Count, 1.0), 201, 500);
     return maps;
 }
 
 const std::vector<CPolyPosMap>& HalvesGrid()
 {
-    static const std::vector<CPolyPosMap> maps = AllMapsUpTo(3, Count, Count, 0.5);
+    static const std::vector<CPolyPosMap> maps = WithFineMaps(AllMapsUpTo(3, Count, Count, 0.5), 202, 500);
     return maps;
 }
 
@@ -356,38 +356,77 @@ TEST(MapEvaluationLaws, M11_InsertGivesAJointAndMovesNoImage)
     });
 }
 
-TEST(MapEvaluationLaws, M12_FillingNodesGivesEachNodeAJointAndMovesNoImage)
+namespace
 {
-    const auto check = [](const CPolyPosMap& map) {
+
+/// A side that goes up past 2n - 1, or down from above n + 1: the nodes of the lap before are put below it, and its last
+/// joint is taken away in exchange. Nothing but the end of a jump is lost if that was the way past 2n - 1.
+bool ReachesTooFarToFill(const CPolyPosMap& map, int side)
+{
+    const int count = CountOf(map, side);
+    if (!RunsUp(map, side))
+    {
+        return Highest(map, side) > count + 1;
+    }
+    const Pairs& pairs = map.PosPairs();
+    const std::pair<double, double> last = pairs.back();
+    const std::pair<double, double> beforeLast = pairs[pairs.size() - 2];
+    const bool endsInJump = side == 2 && beforeLast.first == last.first && beforeLast.second <= count;
+    return Highest(map, side) > 2 * count - 1 && !endsInJump;
+}
+
+bool HasJointAtEachNode(const CPolyPosMap& map, int side)
+{
+    const Pairs& pairs = map.PosPairs();
+    int nodes = 0;
+    for (int node = 0; node < Count; ++node)
+    {
+        nodes += std::any_of(pairs.begin(), pairs.end(), [&](const std::pair<double, double>& joint) {
+            return std::fmod((side == 1 ? joint.first : joint.second) - node, Count) == 0;
+        });
+    }
+    return nodes == Count;
+}
+
+bool FillsWell(const CPolyPosMap& map, int side)
+{
+    CPolyPosMap filled = map;
+    filled.FillAllSegmentNode(side);
+    CPolyPosMap again = filled;
+    again.FillAllSegmentNode(side);
+    bool fillsWell =
+        again == filled && (side == 2 || HasJointAtEachNode(filled, 1)) && (side == 1 || HasJointAtEachNode(filled, 2));
+    // Off all joints, those that the nodes of the destination make of slopes of up to 4 included.
+    for (double place = Lowest(map, 1) + 0x1p-9; place < Highest(map, 1) && fillsWell; place += 0x1p-5)
+    {
+        fillsWell = Images(filled * place) == Images(map * place);
+    }
+    return fillsWell;
+}
+
+} // namespace
+
+TEST(MapEvaluationLaws, M12_FillingNodesGivesEachNodeAJointAndMovesNoImageExceptOnASideThatReachesTooFar)
+{
+    int exceptions = 0;
+    const auto check = [&](const CPolyPosMap& map) {
         if (!RunsUp(map, 1) || map.IsPoint(1) || map.IsPoint(2))
         {
             return;
         }
         for (int side = 1; side <= 3; ++side)
         {
-            CPolyPosMap filled = map;
-            filled.FillAllSegmentNode(side);
-            CPolyPosMap again = filled;
-            again.FillAllSegmentNode(side);
-            EXPECT_EQ(again, filled) << side << " of " << Told(map);
-            const Pairs& pairs = filled.PosPairs();
-            for (int node = 0; node < Count; ++node)
-            {
-                const auto isAt = [&](double value) { return std::fmod(value - node, Count) == 0; };
-                EXPECT_TRUE(side == 2 || std::any_of(pairs.begin(), pairs.end(),
-                                                     [&](const auto& joint) { return isAt(joint.first); }))
-                    << Told(map);
-                EXPECT_TRUE(side == 1 || std::any_of(pairs.begin(), pairs.end(),
-                                                     [&](const auto& joint) { return isAt(joint.second); }))
-                    << Told(map);
-            }
-            for (double place = Lowest(map, 1) + 0.0625; place < Highest(map, 1); place += 0.125)
-            {
-                EXPECT_EQ(Images(filled * place), Images(map * place)) << side << ", " << place << " of " << Told(map);
-            }
+            // Of both sides the source is filled first.
+            CPolyPosMap withSource = map;
+            withSource.FillAllSegmentNode(side == 3 ? 1 : 0);
+            const bool isException =
+                (side != 2 && ReachesTooFarToFill(map, 1)) || (side != 1 && ReachesTooFarToFill(withSource, 2));
+            exceptions += isException ? 1 : 0;
+            EXPECT_EQ(FillsWell(map, side), !isException) << side << " of " << Told(map);
         }
     };
     ForMaps(Grid(), check);
+    EXPECT_GT(exceptions, 50);
 }
 
 TEST(MapEvaluationLaws, M13_SmoothingMovesNoImageFurtherThanTheGreatestStep)

@@ -1,10 +1,12 @@
 #pragma once
 
 #include "support/Maps.h"
+#include "support/Support.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 #include <vector>
 
 // All maps of a small grid, and a map carried out by hand: joint by joint and lap by lap, from the list alone.
@@ -71,6 +73,63 @@ inline std::vector<CPolyPosMap> AllMapsUpTo(std::size_t mostJoints, int sourceCo
     {
         const std::vector<CPolyPosMap> some = AllMaps(size, sourceCount, destinationCount, step);
         maps.insert(maps.end(), some.begin(), some.end());
+    }
+    return maps;
+}
+
+/// A normal map at random, finer and longer than those of the grid: up to nine joints in sixteenths of the source. Slopes
+/// are powers of two or 0, so that what is done with it is as exact as on the grid.
+inline CPolyPosMap FineMap(Random& random, int sourceCount, int destinationCount)
+{
+    const int low = random.Coin() ? 0 : random.Integer(0, 16 * sourceCount - 1);
+    const int image = random.Coin() ? 0 : random.Integer(0, 16 * destinationCount - 1);
+    Pairs pairs = {{low / 16.0, image / 16.0}};
+    double sourceLeft = sourceCount;
+    double destinationLeft = destinationCount;
+    for (int steps = random.Integer(0, 8); steps > 0; --steps)
+    {
+        const double length = random.Integer(0, 3) == 0 ? 0.0 : std::ldexp(1.0, -random.Integer(1, 4));
+        const double height = std::ldexp(length > 0 ? length : 1.0, random.Integer(-2, 2));
+        const double rise = random.Integer(0, 3) == 0 ? 0.0 : height;
+        if (length <= sourceLeft && rise <= destinationLeft)
+        {
+            sourceLeft -= length;
+            destinationLeft -= rise;
+            pairs.emplace_back(pairs.back().first + length, pairs.back().second + rise);
+        }
+    }
+    // Now and then up to the whole lap, flat and by a jump.
+    if (random.Integer(0, 2) == 0)
+    {
+        pairs.emplace_back(pairs.front().first + sourceCount, pairs.back().second);
+    }
+    if (random.Integer(0, 2) == 0)
+    {
+        pairs.emplace_back(pairs.back().first, pairs.front().second + destinationCount);
+    }
+    if (random.Coin())
+    {
+        const double ends = pairs.front().second + pairs.back().second;
+        for (auto& joint : pairs)
+        {
+            joint.second = ends - joint.second;
+        }
+    }
+    if (random.Coin())
+    {
+        std::reverse(pairs.begin(), pairs.end());
+    }
+    return Map(pairs, sourceCount, destinationCount);
+}
+
+/// Maps of that kind, after those of a grid.
+inline std::vector<CPolyPosMap> WithFineMaps(std::vector<CPolyPosMap> maps, std::uint64_t seed, int howMany,
+                                             int sourceCount = 2, int destinationCount = 2)
+{
+    Random random(seed);
+    for (int i = 0; i < howMany; ++i)
+    {
+        maps.push_back(FineMap(random, sourceCount, destinationCount));
     }
     return maps;
 }
