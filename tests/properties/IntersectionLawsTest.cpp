@@ -356,7 +356,7 @@ void ForAll(const std::vector<First>& first, const std::vector<Second>& second, 
     }
 }
 
-// ---- Curves at random ----
+// Curves at random
 
 /// As exact as points of random curves are: beside a tangency a rounding of the line moves them by its root.
 constexpr double RandomTolerance = 1e-6;
