@@ -33,6 +33,11 @@ bool SameSegment(const CSegment& a, const CSegment& b)
            SamePoint(a.ctrl2, b.ctrl2);
 }
 
+bool SameBox(const DRECT& a, const DRECT& b)
+{
+    return SameBits(a.x, b.x) && SameBits(a.y, b.y) && SameBits(a.width, b.width) && SameBits(a.height, b.height);
+}
+
 double Distance(const DPOINT2& a, const DPOINT2& b)
 {
     return std::hypot(a.x - b.x, a.y - b.y);
@@ -197,6 +202,13 @@ void CheckAngle(const CSegment& segment, double t)
 void CheckBox(const CSegment& segment)
 {
     const DRECT box = segment.GetBoundRect();
+    const DRECT boxes[] = {CSegment::GetBoundRectOfLine(segment.start, segment.end),
+                           CSegment::GetBoundRectOfArc(segment.start, segment.end, segment.bulge),
+                           CSegment::GetBoundRectOfBezier(segment.start, segment.ctrl1, segment.ctrl2, segment.end)};
+    if (segment.type >= SegmentLine && segment.type <= SegmentBezier)
+    {
+        FUZZ_REQUIRE(SameBox(box, boxes[segment.type - SegmentLine]));
+    }
     if (segment.type != SegmentBezier && !IsTame(segment))
     {
         return;

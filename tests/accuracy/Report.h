@@ -39,6 +39,7 @@ struct Row
     std::string unit; ///< what an error is counted in
 
     long cases = 0;
+    long compared = 0; ///< errors that were taken
     long expected = 0; ///< results that are there in truth
     long missed = 0;   ///< of those, the ones that were not told
     long extra = 0;    ///< results that were told and are not there
@@ -94,6 +95,9 @@ public:
     /// The bound of the stratum, or that of the whole function, or null.
     const Bound* Find(const Row& row) const;
 
+    /// Functions and strata that no row belongs to.
+    std::vector<std::string> WithoutRow(const std::vector<Row>& rows) const;
+
 private:
     std::map<std::pair<std::string, std::string>, Bound> entries;
 };
@@ -126,9 +130,19 @@ private:
 void PrintMarkdown(std::ostream& out, const std::vector<Row>& rows, const Bounds& bounds);
 void PrintWorst(std::ostream& out, const std::vector<Row>& rows);
 
-/// Prints every row that exceeds its bound divided by `tighten`, or has none.
+/// Prints every row that exceeds its bound divided by `tighten`, has none, or compared nothing where anything is to be
+/// found.
 ///
 /// @return how many there are
 int CheckBounds(std::ostream& out, const std::vector<Row>& rows, const Bounds& bounds, double tighten);
+
+/// Prints every function of the library that has neither a row nor a line in the list of those left out, and every line of
+/// that list for which there is no function, or one with a row.
+///
+/// @param exportedNames  a file of the demangled names that the library exports
+/// @param leftOut        a file of names, or beginnings of names with a * after them, each with a reason: name ; reason
+/// @return how many there are
+int CheckNames(std::ostream& out, const std::vector<Row>& rows, const std::string& exportedNames,
+               const std::string& leftOut);
 
 } // namespace math::accuracy

@@ -9,6 +9,7 @@
 #include <iostream>
 #include <optional>
 #include <string>
+#include <vector>
 
 namespace
 {
@@ -18,6 +19,8 @@ struct Options
     double load = 1.0;
     double tighten = 1.0;
     std::string bounds;
+    std::string exportedNames;
+    std::string leftOut;
     std::string only;
     bool check = false;
     bool markdown = false;
@@ -26,12 +29,16 @@ struct Options
 
 void PrintUsage(std::ostream& out)
 {
-    out << "usage: qormath_accuracy [--load N] [--only FUNCTION] [--check BOUNDS [--tighten N] | --markdown BOUNDS]\n"
+    out << "usage: qormath_accuracy [--load N] [--only FUNCTION] [--check BOUNDS [--tighten N] [--exported NAMES "
+           "--left-out "
+           "LIST] | --markdown BOUNDS]\n"
            "  Without an action: the worst error of every function and the input that shows it.\n"
            "  --load N           N times the least number of inputs\n"
            "  --only FUNCTION    this function alone\n"
            "  --check BOUNDS     fails when a row of the table exceeds its bound in the file\n"
            "  --tighten N        divides all bounds, to see the check fail\n"
+           "  --exported NAMES   fails when one of these names, which the library exports, has no row\n"
+           "  --left-out LIST    and is not in this list\n"
            "  --markdown BOUNDS  prints the table for the documentation\n";
 }
 
@@ -52,6 +59,10 @@ Options Read(int count, char** arguments)
             double& number = name == "--load" ? options.load : options.tighten;
             number = std::strtod(value.c_str(), nullptr);
             options.isValid = options.isValid && number > 0.0;
+        }
+        else if (name == "--exported" || name == "--left-out")
+        {
+            (name == "--exported" ? options.exportedNames : options.leftOut) = value;
         }
         else if (name == "--only")
         {
@@ -91,7 +102,17 @@ int Act(const Options& options)
     }
     if (options.check)
     {
-        const int failures = CheckBounds(std::cout, run.Rows(), *bounds, options.tighten);
+        int failures = CheckBounds(std::cout, run.Rows(), *bounds, options.tighten);
+        for (const std::string& bound :
+             options.only.empty() ? bounds->WithoutRow(run.Rows()) : std::vector<std::string>())
+        {
+            std::cout << bound << ": has a bound, and is not measured\n";
+            ++failures;
+        }
+        if (!options.exportedNames.empty())
+        {
+            failures += CheckNames(std::cout, run.Rows(), options.exportedNames, options.leftOut);
+        }
         std::cout << run.Rows().size() << " rows, " << failures << " beyond their bounds\n";
         return failures == 0 && !run.Rows().empty() ? EXIT_SUCCESS : EXIT_FAILURE;
     }

@@ -87,67 +87,71 @@ std::string Differing(const Operations& operations, const std::vector<Answer>& a
 
 } // namespace
 
+/// The threads come first, and one thread alone afterwards: nobody has called anything before that could be remembered.
 TEST(Threads, ReadSharedObjectsAtTheSameTime)
 {
     const std::vector<ConstOperation> operations = AllConstOperations();
+    ASSERT_FALSE(operations.empty());
     const auto settings = MakeSettings();
-    std::vector<std::vector<Answer>> expected;
-    for (const auto& setting : settings)
-    {
-        expected.push_back(Answers(operations, [&]() -> const Setting& { return *setting; }));
-    }
-    std::vector<std::string> differing(ThreadCount);
+    std::vector<std::vector<std::vector<Answer>>> answers(ThreadCount);
     OnAllThreads([&](int number) {
         for (int round = 0; round < RoundCount; ++round)
         {
             // Threads of one round work on one setting.
             const auto variant = static_cast<std::size_t>(round % VariantCount);
-            const std::vector<Answer> answers =
-                Answers(operations, [&]() -> const Setting& { return *settings[variant]; });
-            differing[static_cast<std::size_t>(number)] += Differing(operations, answers, expected[variant]);
+            answers[static_cast<std::size_t>(number)].push_back(
+                Answers(operations, [&]() -> const Setting& { return *settings[variant]; }));
         }
     });
-    for (const std::string& names : differing)
+    for (std::size_t variant = 0; variant < settings.size(); ++variant)
     {
-        EXPECT_EQ(names, "");
+        const Setting alone(static_cast<int>(variant));
+        const std::vector<Answer> expected = Answers(operations, [&]() -> const Setting& { return alone; });
+        for (const auto& rounds : answers)
+        {
+            ASSERT_EQ(rounds.size(), static_cast<std::size_t>(RoundCount));
+            for (std::size_t round = variant; round < rounds.size(); round += settings.size())
+            {
+                EXPECT_EQ(Differing(operations, rounds[round], expected), "") << "variant " << variant;
+            }
+        }
+        EXPECT_TRUE(settings[variant]->Bits() == alone.Bits()) << "the shared objects, variant " << variant;
     }
 }
 
 TEST(Threads, ChangeObjectsOfTheirOwnThatWereCopiedFromSharedOnes)
 {
     const std::vector<ChangingOperation> operations = AllChangingOperations();
+    ASSERT_FALSE(operations.empty());
     const auto settings = MakeSettings();
-    std::vector<std::vector<Answer>> expected;
-    std::vector<Answer> bits;
-    for (const auto& setting : settings)
-    {
+    const auto answersOnCopiesOf = [&](const Setting& setting) {
         std::unique_ptr<Setting> own;
-        expected.push_back(Answers(operations, [&]() -> Setting& {
-            own = std::make_unique<Setting>(*setting);
+        return Answers(operations, [&]() -> Setting& {
+            own = std::make_unique<Setting>(setting);
             return *own;
-        }));
-        bits.push_back(setting->Bits());
-    }
-    std::vector<std::string> differing(ThreadCount);
+        });
+    };
+    std::vector<std::vector<std::vector<Answer>>> answers(ThreadCount);
     OnAllThreads([&](int number) {
         for (int round = 0; round < RoundCount; ++round)
         {
             const auto variant = static_cast<std::size_t>(round % VariantCount);
-            std::unique_ptr<Setting> own;
-            const std::vector<Answer> answers = Answers(operations, [&]() -> Setting& {
-                own = std::make_unique<Setting>(*settings[variant]);
-                return *own;
-            });
-            differing[static_cast<std::size_t>(number)] += Differing(operations, answers, expected[variant]);
+            answers[static_cast<std::size_t>(number)].push_back(answersOnCopiesOf(*settings[variant]));
         }
     });
-    for (const std::string& names : differing)
-    {
-        EXPECT_EQ(names, "");
-    }
     for (std::size_t variant = 0; variant < settings.size(); ++variant)
     {
-        EXPECT_TRUE(settings[variant]->Bits() == bits[variant]) << "the objects copied from, variant " << variant;
+        const Setting alone(static_cast<int>(variant));
+        const std::vector<Answer> expected = answersOnCopiesOf(alone);
+        for (const auto& rounds : answers)
+        {
+            ASSERT_EQ(rounds.size(), static_cast<std::size_t>(RoundCount));
+            for (std::size_t round = variant; round < rounds.size(); round += settings.size())
+            {
+                EXPECT_EQ(Differing(operations, rounds[round], expected), "") << "variant " << variant;
+            }
+        }
+        EXPECT_TRUE(settings[variant]->Bits() == alone.Bits()) << "the objects copied from, variant " << variant;
     }
 }
 
