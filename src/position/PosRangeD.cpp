@@ -62,6 +62,12 @@ int PosRangeD::GetSegmentIndex(const double& pos)
 
 double PosRangeD::GetRadio(const double& pos)
 {
+    // A conversion is no call, but has to end at the integers.
+    if (std::abs(pos) < 0x1p53)
+    {
+        const auto whole = static_cast<double>(static_cast<std::int64_t>(pos));
+        return std::copysign(pos - whole, pos);
+    }
     double whole = 0.0;
     return std::modf(pos, &whole);
 }

@@ -44,6 +44,19 @@ TEST(PositionParts, NegativePositionsAreCutTowardsZeroAndKeepTheirSignInTheRatio
     EXPECT_TRUE(SameNumber(PosRangeD::GetRadio(2.0), 0.0));
 }
 
+TEST(PositionParts, TheRatioOfAnyNumberIsItsFractionWithItsSign)
+{
+    EXPECT_TRUE(SameNumber(PosRangeD::GetRadio(-0.0), -0.0));
+    EXPECT_EQ(PosRangeD::GetRadio(2147483648.25), 0.25);
+    EXPECT_EQ(PosRangeD::GetRadio(4503599627370495.5), 0.5) << "the greatest number that has a fraction";
+    EXPECT_EQ(PosRangeD::GetRadio(-4503599627370495.5), -0.5);
+    for (const double whole : {9007199254740991.0, 9007199254740992.0, 9223372036854775808.0, 1e300, Infinite})
+    {
+        EXPECT_TRUE(SameNumber(PosRangeD::GetRadio(whole), 0.0)) << whole;
+        EXPECT_TRUE(SameNumber(PosRangeD::GetRadio(-whole), -0.0)) << whole;
+    }
+}
+
 TEST(PositionParts, IntegerPartsBeyondIntTakeTheNearestInt)
 {
     EXPECT_EQ(PosRangeD::GetSegmentIndex(2147483647.5), INT_MAX);
