@@ -2,11 +2,20 @@
 
 #include "polyline/CubicSamples.h"
 
+#include <array>
 #include <cmath>
 #include <cstddef>
 
 namespace math::detail
 {
+
+namespace
+{
+
+/// Speeds are computed in blocks, which compilers put into vectors; the sum takes them one by one.
+constexpr std::size_t SampleBlock = 8;
+
+} // namespace
 
 double LengthOfCubic(const CubicForm& curve)
 {
@@ -16,7 +25,7 @@ double LengthOfCubic(const CubicForm& curve)
     double length = 0.0;
     for (std::size_t begin = 0; begin < sampleCount; begin += SampleBlock)
     {
-        BlockOfSamples pieces{};
+        std::array<double, SampleBlock> pieces{};
         for (std::size_t i = 0; i < SampleBlock; ++i)
         {
             const DPOINT2 derivative = curve.DerivativeAt(SampleParameters[begin + i]);

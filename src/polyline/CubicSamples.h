@@ -1,19 +1,13 @@
 #pragma once
 
-#include "math/Primitives.h"
-#include "polyline/CubicForm.h"
-
 #include <array>
 #include <cstddef>
 
-/// Evaluation of a cubic at the multiples of 0.001 that repeated addition gives, with its rounding.
+/// The multiples of 0.001 that repeated addition gives, with its rounding, where a cubic is evaluated.
 namespace math::detail
 {
 
 inline constexpr double SampleStep = 0.001;
-
-/// Samples are evaluated in blocks, which compilers put into vectors; what comes of them is gathered one by one.
-inline constexpr std::size_t SampleBlock = 8;
 
 constexpr std::array<double, 1024> MakeSampleParameters()
 {
@@ -39,7 +33,5 @@ constexpr std::size_t FirstSampleFrom(double limit)
     }
     return index;
 }
-
-using BlockOfSamples = std::array<double, SampleBlock>;
 
 } // namespace math::detail

@@ -157,20 +157,9 @@ DRECT CSegment::GetBoundRectOfBezier(const DPOINT2& startPoint, const DPOINT2& f
     constexpr std::size_t sampleCount = detail::FirstSampleFrom(1.0000000001);
     const CubicForm curve(startPoint, firstControl, secondControl, endPoint);
     detail::GrowingBox box(BoxOfPoint(startPoint));
-    for (std::size_t begin = 1; begin < sampleCount; begin += detail::SampleBlock)
+    for (std::size_t i = 1; i < sampleCount; ++i)
     {
-        detail::BlockOfSamples x{};
-        detail::BlockOfSamples y{};
-        for (std::size_t i = 0; i < detail::SampleBlock; ++i)
-        {
-            x[i] = curve.x.ValueAt(detail::SampleParameters[begin + i]);
-            y[i] = curve.y.ValueAt(detail::SampleParameters[begin + i]);
-        }
-        const std::size_t count = std::min(detail::SampleBlock, sampleCount - begin);
-        for (std::size_t i = 0; i < count; ++i)
-        {
-            box.Unite(BoxOfPoint({x[i], y[i]}));
-        }
+        box.Unite(BoxOfPoint(curve.PointAt(detail::SampleParameters[i])));
     }
     return box.Box();
 }

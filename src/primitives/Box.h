@@ -24,7 +24,7 @@ inline DRECT BoxOfEnds(const DPOINT2& start, const DPOINT2& end)
     return {std::min(start.x, end.x), std::min(start.y, end.y), std::abs(start.x - end.x), std::abs(start.y - end.y)};
 }
 
-/// The union of boxes, one after the other.
+/// The union of boxes, one after the other. Not the result of a function itself, it can stay in registers.
 class GrowingBox
 {
 public:
