@@ -104,7 +104,7 @@ DPOINT2 CSegment::GetPoint(double t) const
             return Interpolate(start, end, t);
         }
         const ArcForm arc(start, end, bulge);
-        return GetPointInCircle(arc.centre, arc.radius, arc.startRadian + arc.sweep * t);
+        return GetPointInCircle(arc.centre, arc.radius, arc.StartRadian() + arc.sweep * t);
     }
     case SegmentBezier:
         return CubicForm(start, ctrl1, ctrl2, end).PointAt(t);

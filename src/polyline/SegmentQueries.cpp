@@ -31,7 +31,7 @@ namespace
 /// The tangent of an arc. One turn at most is corrected before and after the quarter turn.
 double DirectionOfArc(const ArcForm& arc, double bulge, double t)
 {
-    double radial = arc.sweep * t + arc.startRadian;
+    double radial = arc.sweep * t + arc.StartRadian();
     if (radial >= TwoPi)
     {
         radial -= TwoPi;
@@ -61,14 +61,60 @@ DRECT BoxOfPoint(const DPOINT2& point)
     return {point.x, point.y, 0.0, 0.0};
 }
 
-/// Tells whether an arc reaches a direction. An arc may run on past 2π or below 0, by less than a turn.
-bool Reaches(const ArcForm& arc, double direction)
+/// For each axis point of a circle, counted from the right one counter-clockwise, whether an arc reaches it.
+using ReachedAxisPoints = std::array<bool, 4>;
+
+/// An arc may run on past 2π or below 0, by less than a turn.
+ReachedAxisPoints ReachedByAngle(const ArcForm& arc)
 {
-    const double arcEnd = arc.startRadian + arc.sweep;
-    const double least = std::min(arc.startRadian, arcEnd) - DoubleTolerance;
-    const double greatest = std::max(arc.startRadian, arcEnd) + DoubleTolerance;
+    const double arcStart = arc.StartRadian();
+    const double arcEnd = arcStart + arc.sweep;
+    const double least = std::min(arcStart, arcEnd) - DoubleTolerance;
+    const double greatest = std::max(arcStart, arcEnd) + DoubleTolerance;
     const auto isBetween = [&](double angle) { return least <= angle && angle <= greatest; };
-    return isBetween(direction) || isBetween(direction + TwoPi) || isBetween(direction - TwoPi);
+    const auto isReached = [&](double direction) {
+        return isBetween(direction) || isBetween(direction + TwoPi) || isBetween(direction - TwoPi);
+    };
+    return {isReached(0.0), isReached(HalfPi), isReached(2 * HalfPi), isReached(3 * HalfPi)};
+}
+
+/// The quarter of the plane in which a vector lies, counted as the axis points that come before it.
+int QuarterOf(double x, double y)
+{
+    if (y > 0.0)
+    {
+        return x > 0.0 ? 0 : 1;
+    }
+    return x < 0.0 ? 2 : 3;
+}
+
+/// Away from the axes the quarters of its ends tell what an arc reaches, and no angle need be measured.
+///
+/// @return false if an end is so near to an axis that tolerance or rounding might count
+bool LookAtQuarters(const DPOINT2& start, const DPOINT2& end, double bulge, const ArcForm& arc,
+                    ReachedAxisPoints& reached)
+{
+    const DPOINT2 toStart(start.x - arc.centre.x, start.y - arc.centre.y);
+    const DPOINT2 toEnd(end.x - arc.centre.x, end.y - arc.centre.y);
+    const double coordinates = std::abs(arc.centre.x) + std::abs(arc.centre.y) + arc.radius;
+    const double margin = 1e-6 * arc.radius + 1e-12 * coordinates;
+    const double nearest =
+        std::min(std::min(std::abs(toStart.x), std::abs(toStart.y)), std::min(std::abs(toEnd.x), std::abs(toEnd.y)));
+    if (!(nearest > margin))
+    {
+        return false;
+    }
+    const int startQuarter = QuarterOf(toStart.x, toStart.y);
+    const int endQuarter = QuarterOf(toEnd.x, toEnd.y);
+    const int from = bulge > 0.0 ? startQuarter : endQuarter;
+    const int to = bulge > 0.0 ? endQuarter : startQuarter;
+    const int whole = std::abs(bulge) < 1.0 ? 0 : 4;
+    const int count = from == to ? whole : (to - from + 4) % 4;
+    for (int quarter = 0; quarter < 4; ++quarter)
+    {
+        reached[static_cast<std::size_t>(quarter)] = (quarter - from + 3) % 4 < count;
+    }
+    return true;
 }
 
 /// Places a hair from an end are taken for the end.
@@ -140,11 +186,16 @@ DRECT CSegment::GetBoundRectOfArc(const DPOINT2& startPoint, const DPOINT2& endP
     const DPOINT2& centre = arc.centre;
     const std::array axisPoints = {DPOINT2(centre.x + arc.radius, centre.y), DPOINT2(centre.x, centre.y + arc.radius),
                                    DPOINT2(centre.x - arc.radius, centre.y), DPOINT2(centre.x, centre.y - arc.radius)};
-    for (int quarter = 0; quarter < 4; ++quarter)
+    ReachedAxisPoints reached{};
+    if (!LookAtQuarters(startPoint, endPoint, arcBulge, arc, reached))
     {
-        if (Reaches(arc, quarter * HalfPi))
+        reached = ReachedByAngle(arc);
+    }
+    for (std::size_t i = 0; i < axisPoints.size(); ++i)
+    {
+        if (reached[i])
         {
-            box = detail::UnionOf(box, BoxOfPoint(axisPoints[static_cast<std::size_t>(quarter)]));
+            box = detail::UnionOf(box, BoxOfPoint(axisPoints[i]));
         }
     }
     return box;

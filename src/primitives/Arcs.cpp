@@ -3,12 +3,11 @@
 #include "math/AnalyticKernel.h"
 #include "math/Primitives.h"
 #include "primitives/Direction.h"
+#include "primitives/Distance.h"
 #include "primitives/Outputs.h"
 #include "primitives/Tolerance.h"
 
 #include <cmath>
-
-#include <gp_Vec2d.hxx>
 
 namespace math
 {
@@ -21,14 +20,14 @@ bool IsCentreOnTheLeft(double bulge)
     return (0.0 < bulge && bulge <= 1.0) || bulge <= -1.0;
 }
 
-DPOINT2 CentreOfArc(const DPOINT2& first, const DPOINT2& second, double bulge, double distanceFromChord)
+DPOINT2 CentreOfArc(const DPOINT2& first, const DPOINT2& second, double chordLength, double bulge,
+                    double distanceFromChord)
 {
-    gp_Vec2d leftNormal(-(second.y - first.y), second.x - first.x);
-    leftNormal.Normalize();
     const double middleX = (first.x + second.x) * 0.5;
     const double middleY = (first.y + second.y) * 0.5;
-    const double stepX = distanceFromChord * leftNormal.X();
-    const double stepY = distanceFromChord * leftNormal.Y();
+    // Along the left normal of the chord.
+    const double stepX = distanceFromChord * (-(second.y - first.y) / chordLength);
+    const double stepY = distanceFromChord * ((second.x - first.x) / chordLength);
     if (IsCentreOnTheLeft(bulge))
     {
         return {middleX + stepX, middleY + stepY};
@@ -46,7 +45,7 @@ DPOINT2 GetPointInCircle(const DPOINT2& centre, double radius, double radian)
 bool SolveArc(DPOINT2 first, DPOINT2 second, double bulge, DPOINT2* centre, double* radius, double* startRadian,
               double* sweep)
 {
-    const double chordLength = D2GetDistance(first, second);
+    const double chordLength = detail::Distance(first, second);
     if (detail::IsZero(chordLength) || detail::IsZero(bulge))
     {
         return false;
@@ -58,11 +57,14 @@ bool SolveArc(DPOINT2 first, DPOINT2 second, double bulge, DPOINT2* centre, doub
     const double solvedSweep = 4.0 * std::atan(bulge);
     const double solvedRadius = std::abs((chordLength * 0.5) / std::sin(solvedSweep * 0.5));
     const double distanceFromChord = std::abs(std::cos(solvedSweep * 0.5) * solvedRadius);
-    const DPOINT2 solvedCentre = CentreOfArc(first, second, bulge, distanceFromChord);
+    const DPOINT2 solvedCentre = CentreOfArc(first, second, chordLength, bulge, distanceFromChord);
     detail::Write(solvedSweep, sweep);
     detail::Write(solvedRadius, radius);
     detail::Write(solvedCentre, centre);
-    detail::Write(detail::DirectionBetween(solvedCentre, first), startRadian);
+    if (startRadian != nullptr)
+    {
+        *startRadian = detail::DirectionBetween(solvedCentre, first);
+    }
     return true;
 }
 
