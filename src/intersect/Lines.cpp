@@ -5,6 +5,7 @@
 #include "primitives/Meetings.h"
 #include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
+#include "primitives/Verdict.h"
 
 #include <algorithm>
 #include <cmath>
@@ -15,11 +16,13 @@ namespace math
 
 using detail::AppendOne;
 using detail::AreEqual;
+using detail::CityBlockNorm;
 using detail::CoincideByCoordinates;
 using detail::CurvesCoincide;
 using detail::MakeLineOfBeeline;
 using detail::NoPoint;
 using detail::StraightLine;
+using detail::Verdict;
 using detail::Write;
 
 namespace
@@ -40,8 +43,13 @@ int MeetLines(const StraightLine& a, const StraightLine& b, DPOINT2& point)
 /// A bounded stretch between two ends.
 struct Stretch
 {
-    DPOINT2 first;
-    DPOINT2 second;
+    const DPOINT2& first;
+    const DPOINT2& second;
+
+    DPOINT2 Along() const
+    {
+        return detail::Difference(second, first);
+    }
 
     double Least(double DPOINT2::*axis) const
     {
@@ -69,44 +77,47 @@ int MeetOnOneLine(const Stretch& a, const Stretch& b, DPOINT2& point)
     return apart ? 0 : CurvesCoincide;
 }
 
-/// Tells whether a stretch lies on one side of the line through `base`, by far more than tolerance and rounding. False
-/// for NaN.
-bool LiesClearlyBeside(const Stretch& tested, const Stretch& base)
+double Cross(const DPOINT2& a, const DPOINT2& b)
 {
-    const double alongX = base.second.x - base.first.x;
-    const double alongY = base.second.y - base.first.y;
-    const double firstX = tested.first.x - base.first.x;
-    const double firstY = tested.first.y - base.first.y;
-    const double secondX = tested.second.x - base.first.x;
-    const double secondY = tested.second.y - base.first.y;
-    const double coordinates = std::abs(firstX) + std::abs(firstY) + std::abs(secondX) + std::abs(secondY);
-    const double margin = (std::abs(alongX) + std::abs(alongY)) * (1e-8 + 1e-12 * coordinates);
-    const double firstSide = alongX * firstY - alongY * firstX;
-    const double secondSide = alongX * secondY - alongY * secondX;
-    return (firstSide > margin && secondSide > margin) || (firstSide < -margin && secondSide < -margin);
+    return a.x * b.y - a.y * b.x;
 }
 
-/// Tells whether the directions of two stretches differ by far more than those of lines that count as parallel. Lengths
-/// whose squares leave the range of numbers have no reliable direction and are not clearly anything.
-bool AreClearlyOblique(const Stretch& a, const Stretch& b)
+/// A first look at where the lines of two stretches cross: inside both stretches or beyond an end of one of them, by far
+/// more than tolerance and rounding. Nothing is sure of lines nearly parallel, of lengths whose squares leave the range
+/// of numbers, far from the origin, and of NaN.
+Verdict LookAtCrossing(const Stretch& a, const Stretch& b)
 {
-    const double ax = a.second.x - a.first.x;
-    const double ay = a.second.y - a.first.y;
-    const double bx = b.second.x - b.first.x;
-    const double by = b.second.y - b.first.y;
-    const double lengthOfA = std::abs(ax) + std::abs(ay);
-    const double lengthOfB = std::abs(bx) + std::abs(by);
+    const DPOINT2 alongA = a.Along();
+    const DPOINT2 alongB = b.Along();
+    const double lengthOfA = CityBlockNorm(alongA);
+    const double lengthOfB = CityBlockNorm(alongB);
+    const double cross = Cross(alongA, alongB);
+    const double size = std::abs(cross);
     const auto isModerate = [](double length) { return 1e-100 < length && length < 1e100; };
-    return isModerate(lengthOfA) && isModerate(lengthOfB) && std::abs(ax * by - ay * bx) > 1e-6 * lengthOfA * lengthOfB;
+    if (!(isModerate(lengthOfA) && isModerate(lengthOfB) && size > 1e-6 * lengthOfA * lengthOfB))
+    {
+        return Verdict::Unsure;
+    }
+    // The place of the crossing on each stretch, counted from its middle, in units in which its ends are at ±size.
+    const DPOINT2 between = detail::Difference(b.first, a.first);
+    const double placeOnA = std::abs(2.0 * Cross(between, alongB) - cross);
+    const double placeOnB = std::abs(2.0 * Cross(between, alongA) - cross);
+    const double margin = 2e-8 + 2e-12 * (lengthOfA + lengthOfB + CityBlockNorm(between));
+    // One comparison for both stretches: which of them is missed cannot be foretold.
+    if (std::max(placeOnA - margin * lengthOfB, placeOnB - margin * lengthOfA) > size)
+    {
+        return Verdict::Outside;
+    }
+    const bool isInside = std::max(placeOnA + margin * lengthOfB, placeOnB + margin * lengthOfA) < size;
+    // The error of the point grows with the coordinates and as the lines become parallel.
+    const double coordinates = CityBlockNorm(a.first) + CityBlockNorm(b.first);
+    const bool isPointSure = coordinates * lengthOfA * lengthOfB < 1e4 * size;
+    return isInside && isPointSure ? Verdict::Inside : Verdict::Unsure;
 }
 
-int MeetStretches(const Stretch& a, const Stretch& b, DPOINT2& point)
+/// The full steps, out of line: what they need of the stack is not to burden the first look.
+[[gnu::noinline]] int MeetByNormalForm(const Stretch& a, const Stretch& b, Verdict verdict, DPOINT2& point)
 {
-    // Most pairs miss, and need no normal form for that.
-    if (AreClearlyOblique(a, b) && (LiesClearlyBeside(a, b) || LiesClearlyBeside(b, a)))
-    {
-        return 0;
-    }
     StraightLine lineOfA{};
     StraightLine lineOfB{};
     if (!detail::MakeLineThrough(a.first, a.second, lineOfA) || !detail::MakeLineThrough(b.first, b.second, lineOfB))
@@ -118,10 +129,17 @@ int MeetStretches(const Stretch& a, const Stretch& b, DPOINT2& point)
     {
         return MeetOnOneLine(a, b, point);
     }
-    return code == 1 && detail::IsOnStretch(point, lineOfA, a.second, DoubleTolerance) &&
-                   detail::IsOnStretch(point, lineOfB, b.second, DoubleTolerance)
-               ? 1
-               : 0;
+    const bool isOnBoth =
+        code == 1 && (verdict == Verdict::Inside || (detail::IsOnStretch(point, lineOfA, a.second, DoubleTolerance) &&
+                                                     detail::IsOnStretch(point, lineOfB, b.second, DoubleTolerance)));
+    return isOnBoth ? 1 : 0;
+}
+
+int MeetStretches(const Stretch& a, const Stretch& b, DPOINT2& point)
+{
+    // Most pairs miss, and need no normal form for that.
+    const Verdict verdict = LookAtCrossing(a, b);
+    return verdict == Verdict::Outside ? 0 : MeetByNormalForm(a, b, verdict, point);
 }
 
 bool BoxesAreApart(const Stretch& a, const Stretch& b, double DPOINT2::*axis)
@@ -132,10 +150,8 @@ bool BoxesAreApart(const Stretch& a, const Stretch& b, double DPOINT2::*axis)
 /// Tells whether both ends of `tested` lie strictly on one side of the line through `base`.
 bool LiesOnOneSide(const Stretch& tested, const Stretch& base)
 {
-    const DPOINT2 along(base.second.x - base.first.x, base.second.y - base.first.y);
-    const auto side = [&](const DPOINT2& end) {
-        return along.x * (end.y - base.first.y) - along.y * (end.x - base.first.x);
-    };
+    const DPOINT2 along = base.Along();
+    const auto side = [&](const DPOINT2& end) { return Cross(along, detail::Difference(end, base.first)); };
     return side(tested.second) * -side(tested.first) < 0.0;
 }
 

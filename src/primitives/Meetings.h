@@ -3,10 +3,12 @@
 #include "math/Primitives.h"
 #include "primitives/RoundingUnit.h"
 #include "primitives/Straight.h"
+#include "primitives/TwoNumbers.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <utility>
 
 /// Where lines and circles meet: the coordinates alone, which is all that most callers want. The analytic kernel adds
 /// the parameters of the points.
@@ -31,11 +33,6 @@ inline LineEquation EquationOf(const StraightLine& line)
     return {a, b, -(a * line.location.x + b * line.location.y)};
 }
 
-inline LineEquation Exchanged(const LineEquation& equation)
-{
-    return {equation.b, equation.a, equation.c};
-}
-
 /// Two equations of which the first has the greatest of all four coefficients in `a`, if need be after x and y have
 /// been exchanged.
 struct PivotedPair
@@ -45,22 +42,20 @@ struct PivotedPair
     bool isExchanged;
 };
 
+/// Of equal coefficients the one that comes first counts: the order is a and b of the first line, then of the second.
 inline PivotedPair Pivoted(const LineEquation& first, const LineEquation& second)
 {
     const double greatest = std::max({std::abs(first.a), std::abs(second.a), std::abs(first.b), std::abs(second.b)});
-    if (std::abs(first.a) == greatest)
+    const bool isInFirst = std::abs(first.a) == greatest || std::abs(first.b) == greatest;
+    LineEquation pivot = isInFirst ? first : second;
+    LineEquation other = isInFirst ? second : first;
+    const bool isExchanged = std::abs(pivot.a) != greatest;
+    if (isExchanged)
     {
-        return {first, second, false};
+        std::swap(pivot.a, pivot.b);
+        std::swap(other.a, other.b);
     }
-    if (std::abs(first.b) == greatest)
-    {
-        return {Exchanged(first), Exchanged(second), true};
-    }
-    if (std::abs(second.a) == greatest)
-    {
-        return {second, first, false};
-    }
-    return {Exchanged(second), Exchanged(first), true};
+    return {pivot, other, isExchanged};
 }
 
 /// Two lines.
@@ -80,8 +75,8 @@ inline LineMeeting MeetLines(const LineEquation& first, const LineEquation& seco
     {
         return {true, std::abs(other.c - ratio * pivot.c) <= KernelTolerance, {}};
     }
-    const double x = (pivot.b * other.c / pivot.a - other.b * pivot.c / pivot.a) / denominator;
-    const double y = (ratio * pivot.c - other.c) / denominator;
+    const auto [fromOther, fromPivot] = TwoNumbers{pivot.b * other.c, other.b * pivot.c} / pivot.a;
+    const auto [x, y] = TwoNumbers{fromOther - fromPivot, ratio * pivot.c - other.c} / denominator;
     return {false, false, isExchanged ? DPOINT2(y, x) : DPOINT2(x, y)};
 }
 

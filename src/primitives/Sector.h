@@ -3,6 +3,7 @@
 #include "math/Primitives.h"
 #include "primitives/Constants.h"
 #include "primitives/Tolerance.h"
+#include "primitives/Verdict.h"
 
 #include <cmath>
 
@@ -23,13 +24,6 @@ inline bool IsInSector(double fromStart, double extent)
     // The second test admits a direction just before the start.
     return fromStart <= extent + DoubleTolerance || AreEqual(fromStart, TwoPi);
 }
-
-enum class Verdict
-{
-    Inside,
-    Outside,
-    Unsure
-};
 
 /// Angles of many turns lose digits when they are folded.
 inline bool IsOfFewTurns(double radian)

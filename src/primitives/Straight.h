@@ -11,6 +11,17 @@
 namespace math::detail
 {
 
+inline DPOINT2 Difference(const DPOINT2& to, const DPOINT2& from)
+{
+    return {to.x - from.x, to.y - from.y};
+}
+
+/// Never shorter than the length of a vector, and at most √2 times as long.
+inline double CityBlockNorm(const DPOINT2& vector)
+{
+    return std::abs(vector.x) + std::abs(vector.y);
+}
+
 struct UnitVector
 {
     double x;

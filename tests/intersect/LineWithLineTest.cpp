@@ -1,7 +1,10 @@
 #include "math/Intersect.h"
 #include "support/Curves.h"
+#include "support/ReferenceLines.h"
 
 #include <algorithm>
+#include <cmath>
+#include <utility>
 
 using namespace math;
 using namespace math::test;
@@ -364,4 +367,78 @@ TEST(IntersectLineWithLine, AnOutputMayBeAnInput)
     points.shrink_to_fit();
     EXPECT_EQ(Intersect_LineWithLine(points[0], points[1], points[2], points[3], points, 1), 1);
     EXPECT_EQ(points.back(), At(3, 1));
+}
+
+namespace
+{
+
+/// A point at one of the distances at which tests change their answers.
+DPOINT2 Beside(Random& random, const DPOINT2& point)
+{
+    const double distances[] = {0.0, 0.9e-9, 1e-9, 1.1e-9, 3e-9, 1e-8, 3e-8, 1e-6};
+    const double distance = distances[random.Integer(0, 7)];
+    const double radian = random.Coin() ? random.Radian() : random.Integer(0, 8) * QuarterPi;
+    return At(point.x + distance * std::cos(radian), point.y + distance * std::sin(radian));
+}
+
+/// Two stretches, of which the second often ends on the first one, beside one of its ends or nearly along it.
+std::pair<Stretch, Stretch> RandomPair(Random& random, const DPOINT2& origin, double size)
+{
+    const auto point = [&] {
+        const DPOINT2 offset = random.Point(size);
+        return At(origin.x + offset.x, origin.y + offset.y);
+    };
+    const auto onWay = [](const Stretch& way, double part) {
+        return At(way.first.x + part * (way.second.x - way.first.x), way.first.y + part * (way.second.y - way.first.y));
+    };
+    const Stretch first{point(), point()};
+    Stretch second{point(), point()};
+    switch (random.Integer(0, 5))
+    {
+    case 0:
+        second.first = Beside(random, onWay(first, random.Number(0.0, 1.0)));
+        break;
+    case 1:
+        second.first = Beside(random, random.Coin() ? first.first : first.second);
+        break;
+    case 2:
+        second = {Beside(random, onWay(first, random.Number(-0.5, 1.5))),
+                  Beside(random, onWay(first, random.Number(-0.5, 1.5)))};
+        break;
+    case 3: {
+        const DPOINT2 end = Beside(random, random.Coin() ? first.first : first.second);
+        second = {onWay({end, second.first}, -random.Number(0.0, 1.0)), onWay({end, second.first}, 1.0)};
+        break;
+    }
+    case 4:
+        (random.Coin() ? second.first.x : second.second.y) = random.Coin() ? InvalidDouble : Infinity;
+        break;
+    default:
+        break;
+    }
+    return random.Coin() ? std::pair(first, second) : std::pair(second, first);
+}
+
+} // namespace
+
+TEST(IntersectLineWithLine, AgreesWithTheStepsWrittenOut)
+{
+    Random random(20);
+    int counts[3] = {};
+    for (int i = 0; i < 200000; ++i)
+    {
+        const double size = random.Coin() ? 10.0 : random.Size(1e-9, 1e9);
+        // Far from the origin the point is less exact than the tolerance.
+        const DPOINT2 origin = random.Coin() ? At(0.0, 0.0) : random.Point(random.Size(1.0, 1e12));
+        const auto [a, b] = RandomPair(random, origin, size);
+        DPOINT2 expected = Untouched();
+        const int code = reference::LineWithLine(a.first, a.second, b.first, b.second, expected);
+        DPOINT2 point = Untouched();
+        ASSERT_EQ(Intersect_LineWithLine(a.first, a.second, b.first, b.second, &point), code) << i;
+        ASSERT_TRUE(SameBits(point, expected)) << i;
+        ++counts[code + 1];
+    }
+    EXPECT_GT(counts[0], 1000);
+    EXPECT_GT(counts[1], 1000);
+    EXPECT_GT(counts[2], 1000);
 }
