@@ -1,5 +1,6 @@
 #include "math/Intersect.h"
 
+#include "intersect/Cube.h"
 #include "intersect/QuadraticRoots.h"
 #include "math/Primitives.h"
 #include "primitives/Outputs.h"
@@ -30,7 +31,7 @@ public:
 
     double Value(double x) const
     {
-        return std::pow(x, 3.0) + m_b * (x * x) + m_c * x + m_d;
+        return detail::Cube(x) + m_b * (x * x) + m_c * x + m_d;
     }
 
     double Derivative(double x) const

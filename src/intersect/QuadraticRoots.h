@@ -2,7 +2,9 @@
 
 #include "math/Primitives.h"
 #include "primitives/Tolerance.h"
+#include "primitives/TwoNumbers.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace math::detail
@@ -11,16 +13,8 @@ namespace math::detail
 /// The greatest absolute value, NaN if there is a NaN among the values.
 inline double GreatestMagnitude(double a, double b, double c)
 {
-    double greatest = std::abs(a);
-    for (const double value : {std::abs(b), std::abs(c)})
-    {
-        // Written so that a NaN comes in and stays.
-        if (!(value <= greatest) && !std::isnan(greatest))
-        {
-            greatest = value;
-        }
-    }
-    return greatest;
+    const double sum = std::abs(a) + std::abs(b) + std::abs(c);
+    return std::isnan(sum) ? sum : std::max({std::abs(a), std::abs(b), std::abs(c)});
 }
 
 /// The roots of a quadratic equation, the one of larger magnitude first; NaN for one that does not exist.
@@ -48,36 +42,35 @@ inline QuadraticRoots RootsOfQuadratic(double a, double b, double c)
         return {};
     }
     a /= scale;
-    b /= scale;
-    c /= scale;
+    const TwoNumbers scaled = TwoNumbers{b, c} / scale;
+    b = scaled.first;
+    c = scaled.second;
     if (IsZero(a))
     {
         return RootsOfLinear(b, c);
     }
-    const double sign = a > 0.0 ? 1.0 : -1.0;
+    const double sign = std::copysign(1.0, a);
     c *= sign;
     b *= sign;
     a *= sign;
 
+    const auto [depth, productOfRoots] = TwoNumbers{b * b, c} / TwoNumbers{4.0 * a, a};
     // The value at the vertex decides; a vertex short of the axis by less than the tolerance touches it.
-    double vertexValue = c - b * b / (4.0 * a);
+    const double vertexValue = c - depth;
     if (vertexValue > DoubleTolerance)
     {
         return {};
     }
-    if (vertexValue > 0.0)
-    {
-        vertexValue = 0.0;
-    }
-    const double middle = (b * -1.0) / (2.0 * a);
-    const double halfDistance = std::sqrt((vertexValue * -1.0) / a);
+    const double fallToVertex = std::min(vertexValue, 0.0) * -1.0;
+    const auto [middle, squareOfHalfDistance] = TwoNumbers{b * -1.0, fallToVertex} / TwoNumbers{2.0 * a, a};
+    const double halfDistance = std::sqrt(squareOfHalfDistance);
     if (IsZero(2.0 * halfDistance))
     {
         return {1, middle, middle};
     }
     // The root of larger magnitude loses no digits; the other one follows from the product of the roots.
     const double larger = std::copysign(halfDistance, middle) + middle;
-    return {2, larger, (c / a) / larger};
+    return {2, larger, productOfRoots / larger};
 }
 
 } // namespace math::detail

@@ -1,4 +1,5 @@
 #include "math/Intersect.h"
+#include "support/ReferenceEquations.h"
 #include "support/Support.h"
 
 #include <gtest/gtest.h>
@@ -216,4 +217,41 @@ TEST(CubicEquation, GivesOnlyPlacesWhereItVanishes)
             EXPECT_TRUE(Near(ValueOf(coefficients, root), 0, 1.1e-9)) << ::testing::PrintToString(coefficients);
         }
     }
+}
+
+// The value at a place takes the cube of the place from the C runtime, or what that must be.
+TEST(CubicEquation, AgreesWithTheStepsWrittenOut)
+{
+    Random random(35);
+    const double special[] = {0.0, -0.0, 1.0, -8.0, 1e-310, 1e120, 1e300, Infinity, InvalidDouble};
+    int counts[4] = {};
+    for (int i = 0; i < 60000; ++i)
+    {
+        const double a = random.Number(0.5, 2) * (random.Coin() ? 1 : -1);
+        const double size = random.Coin() ? 1.0 : random.Size(1e-60, 1e60);
+        double b = random.Number(-6, 6) * size;
+        double c = random.Number(-6, 6) * size * size;
+        double d = random.Number(-6, 6) * size * size * size;
+        if (random.Integer(0, 3) == 0) // whole and half numbers, whose cubes are exact
+        {
+            b = random.Integer(-8, 8) * 0.5 * a;
+            c = random.Integer(-8, 8) * 0.5 * a;
+            d = random.Integer(-8, 8) * 0.5 * a;
+        }
+        if (random.Integer(0, 9) == 0)
+        {
+            (random.Coin() ? b : d) = special[random.Integer(0, 8)];
+        }
+        const reference::Roots expected = reference::SolveCubic(a, b, c, d);
+        const Roots roots = Solve(a, b, c, d);
+        ASSERT_EQ(roots.count, expected.count) << a << ' ' << b << ' ' << c << ' ' << d;
+        for (std::size_t k = 0; k < static_cast<std::size_t>(roots.count); ++k)
+        {
+            ASSERT_TRUE(SameBits(roots.values[k], expected.values[k])) << a << ' ' << b << ' ' << c << ' ' << d;
+        }
+        ++counts[roots.count];
+    }
+    EXPECT_GT(counts[1], 1000);
+    EXPECT_GT(counts[2], 300);
+    EXPECT_GT(counts[3], 1000);
 }

@@ -1,4 +1,5 @@
 #include "math/Intersect.h"
+#include "support/ReferenceEquations.h"
 #include "support/Support.h"
 
 #include <gtest/gtest.h>
@@ -211,4 +212,42 @@ TEST(QuadraticEquation, HasTheSameRootsWhateverItsFactor)
         EXPECT_TRUE(Gives(Solve(a * 0x1p40, b * 0x1p40, c * 0x1p40), roots.count, roots.first, roots.second));
         EXPECT_TRUE(Gives(Solve(a * 0x1p-60, b * 0x1p-60, c * 0x1p-60), roots.count, roots.first, roots.second));
     }
+}
+
+TEST(QuadraticEquation, AgreesWithTheStepsWrittenOut)
+{
+    Random random(23);
+    const double special[] = {0.0, -0.0, 1e-9, -1e-9, 2e-9, 1.0, 1e-310, 1e300, Infinity, InvalidDouble};
+    int counts[3] = {};
+    for (int i = 0; i < 300000; ++i)
+    {
+        double a = random.Number(-2, 2);
+        double b = random.Number(-2, 2);
+        double c = random.Number(-2, 2);
+        switch (random.Integer(0, 5))
+        {
+        case 0: // near a double root
+            c = b * b / (4.0 * a) + random.Integer(-1, 1) * random.Size(1e-17, 1e-7);
+            break;
+        case 1: // of any size
+            a *= random.Size(1e-150, 1e150);
+            b *= random.Size(1e-150, 1e150);
+            break;
+        case 2:
+            (random.Coin() ? a : b) = special[random.Integer(0, 9)];
+            c = random.Coin() ? c : special[random.Integer(0, 9)];
+            break;
+        default:
+            break;
+        }
+        const reference::Roots expected = reference::SolveQuadratic(a, b, c);
+        const Roots roots = Solve(a, b, c);
+        ASSERT_EQ(roots.count, expected.count) << a << ' ' << b << ' ' << c;
+        ASSERT_TRUE(SameBits(roots.first, expected.values[0])) << a << ' ' << b << ' ' << c;
+        ASSERT_TRUE(SameBits(roots.second, expected.values[1])) << a << ' ' << b << ' ' << c;
+        ++counts[roots.count];
+    }
+    EXPECT_GT(counts[0], 1000);
+    EXPECT_GT(counts[1], 1000);
+    EXPECT_GT(counts[2], 1000);
 }
