@@ -1,6 +1,5 @@
 #include "intersect/EllipseCut.h"
 
-#include "intersect/QuadraticRoots.h"
 #include "primitives/Constants.h"
 #include "primitives/EllipseTangents.h"
 #include "primitives/Fold.h"
@@ -14,7 +13,13 @@ namespace math::detail
 {
 
 EllipseCut::EllipseCut(double angle, const DPOINT2& centre, double a, double b, double rotation)
-    : m_frame(centre, rotation)
+    : EllipseCut(angle, OwnFrame(centre, rotation), OwnFrame(centre, Fold(rotation, Pi)), a, b, rotation)
+{
+}
+
+EllipseCut::EllipseCut(double angle, const OwnFrame& frame, const OwnFrame& foldedFrame, double a, double b,
+                       double rotation)
+    : m_frame(frame)
 {
     const double foldedAngle = Fold(angle, Pi);
     m_isUpright = AreEqual(foldedAngle, HalfPi);
@@ -22,7 +27,6 @@ EllipseCut::EllipseCut(double angle, const DPOINT2& centre, double a, double b, 
 
     const double foldedRotation = Fold(rotation, Pi);
     const auto [ownFirst, ownSecond] = OwnTangentPoints(a, b, Fold(foldedAngle - foldedRotation, Pi));
-    const OwnFrame foldedFrame = foldedRotation == rotation ? m_frame : OwnFrame(centre, foldedRotation);
     m_firstTangency = foldedFrame.OutOf(ownFirst);
     m_secondTangency = foldedFrame.OutOf(ownSecond);
 
@@ -42,9 +46,8 @@ TwoPoints EllipseCut::Through(const DPOINT2& point) const
         found.count = 1;
         return found;
     }
-    const DPOINT2 own = m_frame.Into(point);
-    const double offset = m_isFlat ? own.y - own.x * m_slope : own.x - own.y * m_slope;
-    const QuadraticRoots roots = RootsOfQuadratic(m_leading, 2.0 * m_slope * offset, offset * offset - m_acrossSquare);
+    const double offset = OffsetOf(point);
+    const QuadraticRoots roots = RootsThrough(offset);
     const auto take = [&](double root, DPOINT2& output) {
         const DPOINT2 onLine = PointAt(root, offset);
         if (!std::isnan(onLine.x) && !std::isnan(onLine.y))
@@ -91,13 +94,6 @@ EllipseCut::Direction EllipseCut::DirectionThrough(const DPOINT2& point) const
     const double dy = point.y + (m_isUpright ? 1.0 : m_worldSlope) - point.y;
     const double length = std::sqrt(dx * dx + dy * dy);
     return length <= gp::Resolution() ? Direction{InvalidDouble, InvalidDouble} : Direction{dx / length, dy / length};
-}
-
-/// The point of the beeline where the coordinate that it runs along has a value, in the own frame.
-DPOINT2 EllipseCut::PointAt(double coordinate, double offset) const
-{
-    const double other = coordinate * m_slope + offset;
-    return m_isFlat ? DPOINT2(coordinate, other) : DPOINT2(other, coordinate);
 }
 
 } // namespace math::detail

@@ -36,13 +36,16 @@ inline bool IsPointInEllipseSector(const DPOINT2& point, const DPOINT2& centre, 
 class EllipseSector
 {
 public:
-    EllipseSector(const DPOINT2& centre, double rotation, double startRadian, double extent)
+    /// @param start  the unit vector of the ray to the start
+    /// @param end    the same to the end
+    EllipseSector(const DPOINT2& centre, double rotation, double startRadian, double extent, const DPOINT2& start,
+                  const DPOINT2& end)
         : m_centre(centre),
           m_rotation(rotation),
           m_startRadian(startRadian),
           m_extent(extent),
-          m_start(Ray(rotation + startRadian)),
-          m_end(Ray(rotation + startRadian + extent)),
+          m_start(start),
+          m_end(end),
           m_isPlain(IsOfFewTurns(rotation) && extent > 4.0 * Margin && extent < Pi - 4.0 * Margin)
     {
     }
@@ -69,13 +72,14 @@ public:
         return IsPointInEllipseSector(point, m_centre, m_rotation, m_startRadian, m_extent, true);
     }
 
+    /// A vector that points into the middle of an arc of less than half a turn.
+    DPOINT2 Middle() const
+    {
+        return {m_start.x + m_end.x, m_start.y + m_end.y};
+    }
+
 private:
     static constexpr double Margin = 1e-6;
-
-    static DPOINT2 Ray(double radian)
-    {
-        return {std::cos(radian), std::sin(radian)};
-    }
 
     DPOINT2 m_centre;
     double m_rotation;

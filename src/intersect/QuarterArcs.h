@@ -1,6 +1,7 @@
 #pragma once
 
 #include "intersect/EllipseCut.h"
+#include "intersect/EllipseHeights.h"
 #include "intersect/EllipseSector.h"
 #include "intersect/PointOutputs.h"
 #include "math/Primitives.h"
@@ -8,6 +9,7 @@
 
 #include <array>
 #include <cstddef>
+#include <limits>
 
 /// How two ellipses meet: each is cut at its extreme points into four quarter arcs. Over a quarter arc y is a function
 /// of x, so a vertical meets it once, and two of them are compared by height and slope at the ends of their shared
@@ -28,9 +30,8 @@ class QuarteredEllipse;
 class EllipseQuarterArc
 {
 public:
-    /// @param startRadian  polar angle of the first end from the own x axis, in [0, 2π)
-    /// @param sweep        polar extent, in [0, 2π)
-    EllipseQuarterArc(const QuarteredEllipse& ellipse, double startRadian, double sweep);
+    /// @param index  of the arc, in the order of the polar angles
+    EllipseQuarterArc(const QuarteredEllipse& ellipse, std::size_t index);
 
     const ArcSpan& Span() const
     {
@@ -46,12 +47,38 @@ public:
     /// The direction of the ellipse at a point of it, in [0, π).
     double TangentAngleAt(const DPOINT2& point) const;
 
+    /// Whether the vertical through x meets the arc, as far as that is beyond doubt: it never is for an ellipse of
+    /// extraordinary size or shape. Where the vertical surely meets the arc, the three below are in force.
+    Verdict IsMetAt(double x) const
+    {
+        if (m_sureLeft < x && x < m_sureRight)
+        {
+            return Verdict::Inside;
+        }
+        const bool isBeside = x < m_span.left.x - m_clearance || x > m_span.right.x + m_clearance;
+        return isBeside ? Verdict::Outside : Verdict::Unsure;
+    }
+
+    /// The point in which MeetVertical meets the arc. Its x is that of the vertical but for the last bits.
+    DPOINT2 MeetingAt(double x) const;
+
+    /// Height and slope in that point, each within a margin.
+    double HeightAt(double x) const;
+    double SlopeAt(double x) const;
+
+    const EllipseHeights& Heights() const;
+
 private:
     const QuarteredEllipse* m_ellipse;
     EllipseSector m_sector;
     double m_startRadian;
     double m_sweep;
     ArcSpan m_span;
+    double m_side = 1.0;      ///< 1 on the upper half of the ellipse, -1 on the lower one
+    bool m_isFarther = false; ///< of the two points of a vertical
+    double m_clearance = std::numeric_limits<double>::infinity();
+    double m_sureLeft = std::numeric_limits<double>::infinity();
+    double m_sureRight = -std::numeric_limits<double>::infinity();
 };
 
 /// An ellipse cut at the four points with a horizontal or vertical tangent into arcs in the order of their polar
@@ -66,22 +93,48 @@ public:
 
     EllipseQuarterArc Arc(std::size_t index) const
     {
-        return {*this, m_angles[index], m_sweeps[index]};
+        return {*this, index};
     }
 
 private:
     friend class EllipseQuarterArc;
+
+    DPOINT2 EndOfArc(std::size_t index) const;
 
     DPOINT2 m_centre;
     double m_a;
     double m_b;
     double m_rotation;
     double m_foldedRotation; ///< in [0, π)
+    OwnFrame m_frame;
     OwnFrame m_foldedFrame;
     EllipseCut m_verticals;
+    EllipseHeights m_heights;
     std::array<double, 4> m_angles;
     std::array<double, 4> m_sweeps;
+    std::array<DPOINT2, 4> m_corners; ///< the points at the angles
+    std::array<DPOINT2, 4> m_rays;    ///< unit vectors towards them
 };
+
+inline DPOINT2 EllipseQuarterArc::MeetingAt(double x) const
+{
+    return m_ellipse->m_verticals.CrossingThrough({x, 0.0}, m_isFarther);
+}
+
+inline double EllipseQuarterArc::HeightAt(double x) const
+{
+    return m_ellipse->m_heights.HeightAt(x, m_side);
+}
+
+inline double EllipseQuarterArc::SlopeAt(double x) const
+{
+    return m_ellipse->m_heights.SlopeAt(x, m_side);
+}
+
+inline const EllipseHeights& EllipseQuarterArc::Heights() const
+{
+    return m_ellipse->m_heights;
+}
 
 /// The points that two quarter arcs share, found by height, slope and bisection: 0, 1 or 2.
 TwoPoints IntersectQuarterArcs(const EllipseQuarterArc& arcA, const EllipseQuarterArc& arcB);

@@ -87,8 +87,7 @@ double TangentAngle(const OwnFrame& frame, double a, double b, double rotation, 
 
 DPOINT2 GetPointInEllipse(const DPOINT2& centre, double a, double b, double rotation, double radian)
 {
-    const double parameter = detail::EccentricParameter(radian, a, b, detail::HalfTurn::RightUpToTheVertices);
-    return detail::OwnFrame(centre, rotation).OutOf(detail::PointAtEccentricParameter(parameter, a, b));
+    return detail::PointAtPolarAngle(detail::OwnFrame(centre, rotation), a, b, radian);
 }
 
 double GetHeightOfEllipseArc(double a, double b, double startRadian, double sweep)

@@ -20,6 +20,16 @@ public:
     {
     }
 
+    double Cosine() const
+    {
+        return m_cosine;
+    }
+
+    double Sine() const
+    {
+        return m_sine;
+    }
+
     /// A point of the world in this frame.
     DPOINT2 Into(const DPOINT2& point) const
     {
@@ -64,6 +74,13 @@ inline double EccentricParameter(double radian, double a, double b, HalfTurn hal
 inline DPOINT2 PointAtEccentricParameter(double parameter, double a, double b)
 {
     return {std::cos(parameter) * a, std::sin(parameter) * b};
+}
+
+/// The point of the ellipse in a frame that is seen from the centre in the polar angle `radian` from the frame's x axis.
+inline DPOINT2 PointAtPolarAngle(const OwnFrame& frame, double a, double b, double radian)
+{
+    const double parameter = EccentricParameter(radian, a, b, HalfTurn::RightUpToTheVertices);
+    return frame.OutOf(PointAtEccentricParameter(parameter, a, b));
 }
 
 } // namespace math::detail
