@@ -5,7 +5,8 @@
 #
 # Prints a line for each file, the sum, and every line and branch that is not reached. Fails below 100 % of the lines or
 # 95 % of the branches, and when one that is not reached isn't explained in docs/coverage.md. Only branches by which an
-# exception leaves a call, and those on lines without code, are left out. Debian packages that are missing are installed first.
+# exception leaves a call, and those on lines without code, are left out. Debian packages that are missing are installed
+# first.
 set -euo pipefail
 cd "$(dirname "$0")/.."
 . scripts/common.sh

@@ -209,9 +209,8 @@ TEST(MapBuilderLaws, M31_ASegmentMapCarriesEachSegmentToItsNumberAndAVanishedOne
         }
     }
     EXPECT_GT(lists.size(), 100U);
-    for (const std::vector<int>& list : lists)
-    {
-        const CPolyPosMap map = Build::GeneratePosMapFromSegmentMap(list, count);
+    const auto check = [](const std::vector<int>& list, int segmentCount) {
+        const CPolyPosMap map = Build::GeneratePosMapFromSegmentMap(list, segmentCount);
         ASSERT_FALSE(map.IsInvalid());
         double standing = 0;
         for (std::size_t i = 0; i < list.size(); ++i)
@@ -223,6 +222,22 @@ TEST(MapBuilderLaws, M31_ASegmentMapCarriesEachSegmentToItsNumberAndAVanishedOne
             }
             standing = list[i] < 0 ? standing : list[i] + 1;
         }
+    };
+    for (const std::vector<int>& list : lists)
+    {
+        check(list, count);
+    }
+    Random random(331);
+    for (int round = 0; round < 2000; ++round)
+    {
+        const int segmentCount = random.Integer(1, 40);
+        std::vector<int> list;
+        for (int next = random.Integer(0, 3); next < segmentCount; next += random.Integer(1, 4))
+        {
+            list.push_back(next);
+            list.insert(list.end(), static_cast<std::size_t>(random.Integer(0, 2)), -1);
+        }
+        check(list, segmentCount);
     }
 }
 
@@ -285,6 +300,18 @@ TEST(MapBuilderLaws, M33_ACollapsedStretchHasOneImage)
                     << position << " of " << Told(map);
             }
         }
+    }
+    Random random(333);
+    for (int round = 0; round < 5000; ++round)
+    {
+        const int count = random.Integer(1, 20);
+        const double start = random.Number(0, count);
+        const double end = random.Number(start, count);
+        const double image = random.Number(0, 9);
+        const double position = random.Number(0, count);
+        const CPolyPosMap map = Build::GeneratePosMapFromPosRange2Pos(PosRangeD(start, end), image, count, 9);
+        const bool inside = start <= position && position <= end;
+        EXPECT_EQ(Images(map * position), inside ? Images({image}) : Images({})) << position << " of " << Told(map);
     }
 }
 

@@ -322,6 +322,35 @@ TEST(MapCompositionLaws, M16_MapsAwayFromTheSeamMayBeBracketedEitherWayExceptWhe
     EXPECT_GT(checked, 10000);
     // A flat stretch into a jump, in one of the brackets: the jump is reduced to its ends and becomes a slope.
     EXPECT_EQ(differing, 4014);
+    // The same on random maps.
+    Random random(216);
+    const auto insideMap = [&] {
+        for (;;)
+        {
+            const CPolyPosMap map = FineMap(random, 2, 2);
+            const bool isInside =
+                Lowest(map, 1) > 0 && Lowest(map, 2) > 0 && Highest(map, 1) < 2 && Highest(map, 2) < 2;
+            if (isInside && !map.IsPoint(1))
+            {
+                return map;
+            }
+        }
+    };
+    int checkedAtRandom = 0;
+    for (int round = 0; round < 6000; ++round)
+    {
+        const CPolyPosMap a = insideMap();
+        const CPolyPosMap b = insideMap();
+        const CPolyPosMap c = insideMap();
+        const CPolyPosMap ab = a * b;
+        const CPolyPosMap bc = b * c;
+        const bool isFree = !ab.IsEmpty() && !bc.IsEmpty() && !IsFlatIntoJump(a, b) && !IsFlatIntoJump(b, c) &&
+                            !IsFlatIntoJump(a, bc) && !IsFlatIntoJump(ab, c);
+        checkedAtRandom += isFree ? 1 : 0;
+        ASSERT_TRUE(!isFree || WalkedUp(ab * c) == WalkedUp(a * bc))
+            << Told(a, b) << "\nand " << test::Told(c) << "\ngive " << Told(ab * c, a * bc);
+    }
+    EXPECT_GT(checkedAtRandom, 500);
 }
 
 namespace
@@ -434,6 +463,22 @@ TEST(MapCompositionLaws, M18_TheInverseOfACompositionIsTheCompositionOfInversesU
     EXPECT_EQ(bothCross, 336);
     // A jump of the one or a flat stretch of the other where the gap is bridged.
     EXPECT_EQ(oneCrosses, 144);
+    Random random(218);
+    int checked = 0;
+    for (int round = 0; round < 20000; ++round)
+    {
+        const CPolyPosMap a = FineMap(random, 2, 2);
+        const CPolyPosMap b = FineMap(random, 2, 2);
+        const bool stays = !CrossesTheSeam(a, 1) && !CrossesTheSeam(a, 2) && !CrossesTheSeam(b, 1) &&
+                           !CrossesTheSeam(b, 2) && !IsFlatIntoJump(a, b) && !IsFlatIntoJump(!b, !a);
+        if (stays)
+        {
+            ++checked;
+            ASSERT_TRUE(AreSameUpToLapsAndOrder(!(a * b), !b * !a))
+                << Told(a, b) << test::Told(!(a * b)) << " and " << test::Told(!b * !a);
+        }
+    }
+    EXPECT_GT(checked, 2000);
 }
 
 // Concatenation
@@ -583,7 +628,7 @@ TEST(MapCompositionLaws, M23_CompositionDoesNotDependOnWhereTheOutlineBetweenBeg
 {
     int checked = 0;
     std::vector<CPolyPosMap> maps;
-    for (const CPolyPosMap& map : AllMaps(2, 3, 3, 1.0))
+    for (const CPolyPosMap& map : WithFineMaps(AllMaps(2, 3, 3, 1.0), 223, 1000, 3, 3))
     {
         if (IsOneToOne(map) && RunsUp(map, 1))
         {
@@ -606,7 +651,7 @@ TEST(MapCompositionLaws, M23_CompositionDoesNotDependOnWhereTheOutlineBetweenBeg
             }
             ++checked;
             const CPolyPosMap laterProduct = laterA * laterB;
-            for (double place = 0.0625; place < 3; place += 0.5)
+            for (double place = 0x1p-8; place < 3; place += 0.5)
             {
                 EXPECT_TRUE(AreSamePlaces(PlacesComposed(laterProduct, place), PlacesComposed(product, place)))
                     << place << " of " << Told(a, b) << "\nbegun at " << start;

@@ -765,6 +765,34 @@ TEST(EllipseLaws, A27_AScaledEllipseHoldsTheScaledPointsExceptForRotationsOfNega
     }
     // -8 to -1, 25 to 32 and 41 to 48 sixteenths of π, with four factors on two ellipses.
     EXPECT_EQ(exceptions, 3 * 8 * 4 * 2);
+    Random random(27);
+    exceptions = 0;
+    int holding = 0; // that the semi-axes come out right but for the sign happens off the grid
+    for (int round = 0; round < 5000; ++round)
+    {
+        // Well off the axes and with a clear factor, where the triangle is no flatter than on the grid.
+        const double b = random.Size(0.5, 1);
+        const double a = b * random.Size(2, 5);
+        const double rotation = HalfPi * random.Integer(-2, 5) + random.Number(0.2, HalfPi - 0.2);
+        const double factor = (random.Coin() ? 1 : -1) * (random.Coin() ? random.Size(0.25, 0.5) : random.Size(2, 3));
+        const Oval oval{At(0, 0), a, b, rotation};
+        Oval scaled = oval;
+        ASSERT_TRUE(ScaleEllipse(&scaled.a, &scaled.b, &scaled.rotation, factor));
+        const bool isException = factor > 0 && (rotation < 0 || rotation > Pi) && std::tan(rotation) < 0;
+        ASSERT_EQ(scaled.b < 0, isException) << Digits(rotation) << " " << factor;
+        bool holdsAll = true;
+        for (int sample = 0; sample < 4; ++sample)
+        {
+            const DPOINT2 point = GetPointInEllipse(oval.centre, a, b, rotation, random.Radian());
+            holdsAll = holdsAll && OffOval(scaled, At(point.x * factor, point.y)) <= 1e-11;
+        }
+        exceptions += isException ? 1 : 0;
+        holding += isException && holdsAll ? 1 : 0;
+        ASSERT_TRUE(holdsAll || isException)
+            << Digits(a) << " " << Digits(b) << " " << Digits(rotation) << " " << Digits(factor);
+        ASSERT_TRUE(Near(scaled.a * std::abs(scaled.b), a * b * std::abs(factor), 1e-12 * a * b * std::abs(factor)));
+    }
+    EXPECT_TRUE(exceptions > 500 && holding < exceptions / 10) << holding << " of " << exceptions;
 }
 
 TEST(EllipseLaws, A28_TheOwnAxesFollowAScaleAlongThem)
