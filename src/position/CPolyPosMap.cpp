@@ -152,7 +152,7 @@ bool CPolyPosMap::IsIdentity() const
 
 bool CPolyPosMap::IsInvalid() const
 {
-    return detail::ShapeOf(m_posPairs, m_srcSegmentCount, m_dstSegmentCount).isIllFormed;
+    return detail::ListShape(m_posPairs, m_srcSegmentCount, m_dstSegmentCount).isIllFormed;
 }
 
 bool CPolyPosMap::IsNormalize() const
@@ -165,8 +165,8 @@ bool CPolyPosMap::IsNormalize() const
     {
         return true;
     }
-    const PosRangeD source = detail::SpanOf(m_posPairs, SourceSide);
-    const PosRangeD destination = detail::SpanOf(m_posPairs, DestinationSide);
+    const detail::Span source = detail::SpanOf(m_posPairs, SourceSide);
+    const detail::Span destination = detail::SpanOf(m_posPairs, DestinationSide);
     return StartsInside(source.start, m_srcSegmentCount) && StartsInside(destination.start, m_dstSegmentCount);
 }
 
@@ -226,10 +226,10 @@ PosRangeD CPolyPosMap::GetRange(const int& side, const bool& normalize) const
     {
         return PosRangeD();
     }
-    const PosRangeD span = detail::SpanOf(m_posPairs, side);
+    const detail::Span span = detail::SpanOf(m_posPairs, side);
     if (!normalize)
     {
-        return span;
+        return PosRangeD(span.start, span.end);
     }
     const int segmentCount = side == SourceSide ? m_srcSegmentCount : m_dstSegmentCount;
     const double start = PosRangeD::NormalizePos(span.start, segmentCount);

@@ -98,35 +98,28 @@ ColumnOrder OrderOf(const JointList& joints, int side)
     return isInOrder && HasFiniteEnds(joints, side) ? OrderGoing(up) : ColumnOrder::Irregular;
 }
 
-ListShape ShapeOf(const JointList& joints, int srcSegmentCount, int dstSegmentCount)
+ListShape::ListShape(const JointList& joints, int srcSegmentCount, int dstSegmentCount)
 {
     if (joints.empty())
     {
-        return {false, ColumnOrder::Rising, ColumnOrder::Rising};
+        return;
     }
     const bool sourceUp = RunsUpward(joints, SourceSide);
     const bool destinationUp = RunsUpward(joints, DestinationSide);
-    ListShape shape{false, OrderGoing(sourceUp), OrderGoing(destinationUp)};
+    source = OrderGoing(sourceUp);
+    destination = OrderGoing(destinationUp);
     if (!AreBothInOrder(joints, sourceUp, destinationUp) || !HasFiniteEnds(joints, SourceSide) ||
         !HasFiniteEnds(joints, DestinationSide))
     {
-        shape.source = OrderOf(joints, SourceSide);
-        shape.destination = OrderOf(joints, DestinationSide);
+        source = OrderOf(joints, SourceSide);
+        destination = OrderOf(joints, DestinationSide);
     }
     if (joints.size() > 1)
     {
-        shape.isIllFormed =
-            TurnsBack(joints, SourceSide, shape.source) || TurnsBack(joints, DestinationSide, shape.destination) ||
-            ExceedsLap(joints, SourceSide, srcSegmentCount) || ExceedsLap(joints, DestinationSide, dstSegmentCount);
+        isIllFormed = TurnsBack(joints, SourceSide, source) || TurnsBack(joints, DestinationSide, destination) ||
+                      ExceedsLap(joints, SourceSide, srcSegmentCount) ||
+                      ExceedsLap(joints, DestinationSide, dstSegmentCount);
     }
-    return shape;
-}
-
-PosRangeD SpanOf(const JointList& joints, int side)
-{
-    const double front = ColumnValue(joints.front(), side);
-    const double back = ColumnValue(joints.back(), side);
-    return RunsUpward(joints, side) ? PosRangeD(front, back) : PosRangeD(back, front);
 }
 
 bool KeepsDirection(const JointList& joints, const ListShape& shape)

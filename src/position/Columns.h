@@ -1,7 +1,7 @@
 #pragma once
 
-#include "math/PosRangeD.h"
 #include "position/PairList.h"
+#include "position/Positions.h"
 
 namespace math::detail
 {
@@ -26,15 +26,20 @@ inline bool RunsUpward(const JointList& joints, int side)
 /// What a list of joints is like, found in one go.
 struct ListShape
 {
-    bool isIllFormed; ///< a column turns back by more than the tolerance, or spans more than a lap
-    ColumnOrder source;
-    ColumnOrder destination;
+    ListShape(const JointList& joints, int srcSegmentCount, int dstSegmentCount);
+
+    ColumnOrder source = ColumnOrder::Rising;
+    ColumnOrder destination = ColumnOrder::Rising;
+    bool isIllFormed = false; ///< a column turns back by more than the tolerance, or spans more than a lap
 };
 
-ListShape ShapeOf(const JointList& joints, int srcSegmentCount, int dstSegmentCount);
-
 /// The stretch that a column covers, lower end first; the list must have a joint.
-PosRangeD SpanOf(const JointList& joints, int side);
+inline Span SpanOf(const JointList& joints, int side)
+{
+    const double front = ColumnValue(joints.front(), side);
+    const double back = ColumnValue(joints.back(), side);
+    return front <= back ? Span{front, back} : Span{back, front};
+}
 
 /// Tells whether both columns run the same way. Those of an ill-formed list do, by convention.
 bool KeepsDirection(const JointList& joints, const ListShape& shape);

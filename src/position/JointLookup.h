@@ -42,7 +42,7 @@ public:
         const std::size_t size = m_joints.size();
         const std::size_t begin = FirstAtOrAfter(position);
         std::size_t end = begin;
-        for (; end < size && Ahead(end, position) < DoubleTolerance; ++end)
+        for (; end < size && Ahead(m_joints[end], position) < DoubleTolerance; ++end)
         {
             visit(ColumnValue(m_joints[end], OtherSide(m_side)));
         }
@@ -55,21 +55,21 @@ public:
 
 private:
     /// How far a joint lies past a position in walking order.
-    double Ahead(std::size_t index, double position) const
+    double Ahead(const Joint& joint, double position) const
     {
-        return m_sign * (m_joints[index].*m_own - position);
+        return m_sign * (joint.*m_own - position);
     }
 
-    bool IsBefore(std::size_t index, double position) const
+    bool IsBefore(const Joint& joint, double position) const
     {
-        return Ahead(index, position) <= -DoubleTolerance;
+        return Ahead(joint, position) <= -DoubleTolerance;
     }
 
     /// Tells whether all joints below an index, and none from there on, are before a position.
     bool IsFirstAtOrAfter(std::size_t index, double position) const
     {
-        return (index == 0 || IsBefore(index - 1, position)) &&
-               (index == m_joints.size() || !IsBefore(index, position));
+        return (index == 0 || IsBefore(m_joints[index - 1], position)) &&
+               (index == m_joints.size() || !IsBefore(m_joints[index], position));
     }
 
     /// Index of the first joint that is not before a position by the tolerance.
@@ -85,33 +85,30 @@ private:
             }
             GallopFromExpected(position, low, high);
         }
-        while (high - low > Few)
+        // No branch depends on what is compared here, since half of them would be mispredicted.
+        auto first = m_joints.begin() + static_cast<std::ptrdiff_t>(low);
+        auto left = static_cast<std::ptrdiff_t>(high - low);
+        const auto isBefore = [=](const Joint& joint) { return IsBefore(joint, position); };
+        while (left > Few)
         {
-            const std::size_t middle = low + (high - low) / 2;
-            const bool isBefore = IsBefore(middle, position);
-            low = isBefore ? middle + 1 : low;
-            high = isBefore ? high : middle;
+            const std::ptrdiff_t half = left / 2;
+            first += isBefore(*(first + half - 1)) ? half : 0;
+            left -= half;
         }
-        // The joints before come first, so it is enough to count them, without a branch to mispredict.
-        std::size_t found = low;
-        for (std::size_t i = low; i < high; ++i)
-        {
-            found += IsBefore(i, position) ? 1 : 0;
-        }
-        return found;
+        return static_cast<std::size_t>(first - m_joints.begin() + std::count_if(first, first + left, isBefore));
     }
 
     /// Closes in on a position from the joint that was expected, by steps that double.
     void GallopFromExpected(double position, std::size_t& low, std::size_t& high) const
     {
-        if (m_expected < high && IsBefore(m_expected, position))
+        if (m_expected < high && IsBefore(m_joints[m_expected], position))
         {
             const std::size_t size = high;
             low = m_expected + 1;
             for (std::size_t step = 1; low < size; step *= 2)
             {
                 const std::size_t probe = std::min(low + step, size) - 1;
-                if (!IsBefore(probe, position))
+                if (!IsBefore(m_joints[probe], position))
                 {
                     high = probe;
                     return;
@@ -124,7 +121,7 @@ private:
         for (std::size_t step = 1; high > 0; step *= 2)
         {
             const std::size_t probe = high - std::min(step, high);
-            if (IsBefore(probe, position))
+            if (IsBefore(m_joints[probe], position))
             {
                 low = probe + 1;
                 return;
@@ -134,7 +131,7 @@ private:
     }
 
     static constexpr std::size_t NotYet = std::numeric_limits<std::size_t>::max();
-    static constexpr std::size_t Few = 16; ///< joints, of which all are compared
+    static constexpr std::ptrdiff_t Few = 16; ///< joints, of which each is compared
 
     const JointList& m_joints;
     int m_side;

@@ -1,5 +1,7 @@
 #include "position/LapMover.h"
 
+#include "math/PosRangeD.h"
+
 #include <cmath>
 
 namespace math::detail

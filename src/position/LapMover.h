@@ -1,6 +1,5 @@
 #pragma once
 
-#include "math/PosRangeD.h"
 #include "math/Primitives.h"
 #include "position/Positions.h"
 #include "primitives/Tolerance.h"
@@ -13,7 +12,7 @@ namespace math::detail
 class LapMover
 {
 public:
-    LapMover(const PosRangeD& range, int segmentCount)
+    LapMover(const Span& range, int segmentCount)
         : m_segmentCount(segmentCount),
           m_lowEnd(range.start),
           m_highEnd(range.end)

@@ -74,7 +74,7 @@ void CollapseChains(std::vector<double>& positions, std::size_t begin)
 /// Tells whether a normal list runs past the count on a side.
 bool CrossesSeam(const JointList& joints, int side, int segmentCount)
 {
-    const PosRangeD covered = detail::SpanOf(joints, side);
+    const detail::Span covered = detail::SpanOf(joints, side);
     if (joints.size() < 2 || AreEqual(covered.start, covered.end) || segmentCount == 0)
     {
         return false;
@@ -82,15 +82,6 @@ bool CrossesSeam(const JointList& joints, int side, int segmentCount)
     const double boundary = static_cast<double>((detail::WholeLaps(covered.start, segmentCount) + 1) * segmentCount);
     return !AreEqual(covered.end, boundary) && covered.end > boundary;
 }
-
-/// A map to work on.
-struct WorkingMap
-{
-    JointList joints;
-    int srcSegmentCount;
-    int dstSegmentCount;
-    detail::ListShape shape;
-};
 
 int DoubledCount(int segmentCount)
 {
@@ -121,16 +112,29 @@ JointList UnrollTwoLaps(const CPolyPosMap& map)
     return joints;
 }
 
-WorkingMap WorkingCopy(const CPolyPosMap& map, bool overTwoLaps)
+/// A list without repeated and straight joints.
+JointList Tidied(JointList joints)
 {
-    WorkingMap copy{overTwoLaps ? UnrollTwoLaps(map) : map.PosPairs(),
-                    overTwoLaps ? DoubledCount(map.SrcSegmentCount()) : map.SrcSegmentCount(),
-                    overTwoLaps ? DoubledCount(map.DstSegmentCount()) : map.DstSegmentCount(),
-                    {}};
-    detail::Tidy(copy.joints);
-    copy.shape = detail::ShapeOf(copy.joints, copy.srcSegmentCount, copy.dstSegmentCount);
-    return copy;
+    detail::Tidy(joints);
+    return joints;
 }
+
+/// A tidy copy of a map to work on.
+struct WorkingMap
+{
+    WorkingMap(const CPolyPosMap& map, bool overTwoLaps)
+        : srcSegmentCount(overTwoLaps ? DoubledCount(map.SrcSegmentCount()) : map.SrcSegmentCount()),
+          dstSegmentCount(overTwoLaps ? DoubledCount(map.DstSegmentCount()) : map.DstSegmentCount()),
+          joints(Tidied(overTwoLaps ? UnrollTwoLaps(map) : map.PosPairs())),
+          shape(joints, srcSegmentCount, dstSegmentCount)
+    {
+    }
+
+    int srcSegmentCount;
+    int dstSegmentCount;
+    JointList joints;
+    detail::ListShape shape;
+};
 
 /// A place on the source of the first map and the joint of the second map that it lands on.
 struct Landing
@@ -266,8 +270,8 @@ Composition::Composition(const CPolyPosMap& first, const CPolyPosMap& second)
       m_second(second),
       m_firstCrosses(CrossesSeam(first.PosPairs(), DestinationSide, first.DstSegmentCount())),
       m_secondCrosses(CrossesSeam(second.PosPairs(), SourceSide, second.SrcSegmentCount())),
-      m_feeding(WorkingCopy(first, !m_firstCrosses && m_secondCrosses)),
-      m_fed(WorkingCopy(second, m_firstCrosses)),
+      m_feeding(first, !m_firstCrosses && m_secondCrosses),
+      m_fed(second, m_firstCrosses),
       m_sameWay(detail::KeepsDirection(m_feeding.joints, m_feeding.shape) ==
                 detail::KeepsDirection(m_fed.joints, m_fed.shape))
 {
@@ -295,7 +299,8 @@ void Composition::CollectLandings()
         detail::IsIdentityList(m_feeding.joints, m_feeding.srcSegmentCount, m_feeding.dstSegmentCount);
     const int side = isIdentity ? SourceSide : DestinationSide;
     const detail::ColumnOrder order = isIdentity ? m_feeding.shape.source : m_feeding.shape.destination;
-    const detail::LapMover moveToLap(m_feeding.shape.isIllFormed ? PosRangeD() : detail::SpanOf(m_feeding.joints, side),
+    const detail::LapMover moveToLap(m_feeding.shape.isIllFormed ? detail::NoSpan
+                                                                 : detail::SpanOf(m_feeding.joints, side),
                                      m_feeding.dstSegmentCount);
     JointLookup lookup(m_feeding.joints, side, order);
     SortSources(m_fed, m_positions);

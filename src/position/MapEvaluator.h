@@ -1,21 +1,27 @@
 #pragma once
 
-#include "math/CPolyPosMap.h"
 #include "position/Columns.h"
 #include "position/JointLookup.h"
 #include "position/LapMover.h"
+#include "position/PairList.h"
 
 #include <vector>
 
 namespace math::detail
 {
 
-/// Evaluates one map at many positions: what `map * position` finds out about the list every time is found once. The
-/// map must not change meanwhile.
+/// Evaluates one list of joints at many positions: what `map * position` finds out about it every time is found once. The
+/// list must not change meanwhile.
 class MapEvaluator
 {
 public:
-    explicit MapEvaluator(const CPolyPosMap& map);
+    MapEvaluator(const JointList& joints, int srcSegmentCount, int dstSegmentCount)
+        : m_joints(joints),
+          m_shape(joints, srcSegmentCount, dstSegmentCount),
+          m_moveToLap(joints.empty() || m_shape.isIllFormed ? NoSpan : SpanOf(joints, SourceSide), srcSegmentCount),
+          m_lookup(joints, SourceSide, m_shape.source)
+    {
+    }
 
     bool IsIllFormed() const
     {
@@ -28,13 +34,13 @@ public:
         return m_shape.source != ColumnOrder::Irregular;
     }
 
-    /// The position in the lap of the map.
+    /// The position in the lap of the list.
     double MoveToLap(double position) const
     {
         return m_moveToLap(position);
     }
 
-    /// Hands out the images of a source position. None if the map is ill-formed; an empty map hands out the moved
+    /// Hands out the images of a source position. None if the list is ill-formed; an empty list hands out the moved
     /// position.
     template <typename Visit>
     void ForEachImage(double position, const Visit& visit)
@@ -44,7 +50,7 @@ public:
             return;
         }
         const double moved = MoveToLap(position);
-        if (m_map.IsEmpty())
+        if (m_joints.empty())
         {
             visit(moved);
             return;
@@ -58,7 +64,7 @@ public:
     }
 
 private:
-    const CPolyPosMap& m_map;
+    const JointList& m_joints;
     ListShape m_shape;
     LapMover m_moveToLap;
     JointLookup m_lookup;

@@ -207,7 +207,7 @@ CPolyPosMap CPolyPosMapUtilies::GeneratePosMapFromSegmentMap(const std::vector<i
 
 std::vector<int> CPolyPosMapUtilies::GetSegmentMapFronPosMap(const CPolyPosMap& map)
 {
-    detail::MapEvaluator evaluator(map);
+    detail::MapEvaluator evaluator(map.PosPairs(), map.SrcSegmentCount(), map.DstSegmentCount());
     std::vector<int> segments;
     std::vector<double> atStart;
     std::vector<double> atEnd;

@@ -53,20 +53,23 @@ std::vector<double> CPolyPosMap::MultyDouble(const std::vector<std::pair<double,
 
 std::vector<double> CPolyPosMap::operator*(const double& pos) const
 {
-    detail::MapEvaluator evaluator(*this);
+    detail::MapEvaluator evaluator(m_posPairs, m_srcSegmentCount, m_dstSegmentCount);
+    std::vector<double> images;
     if (IsEmpty() || (!evaluator.IsOrdered() && !evaluator.IsIllFormed()))
     {
-        return MultyDouble(m_posPairs, evaluator.MoveToLap(pos));
+        images = MultyDouble(m_posPairs, evaluator.MoveToLap(pos));
     }
-    std::vector<double> images;
-    evaluator.AppendImages(pos, images);
+    else
+    {
+        evaluator.AppendImages(pos, images);
+    }
     return images;
 }
 
 std::vector<double> CPolyPosMap::MultyDouble(const double& pos, const bool& bothSeamFaces,
                                              const bool& liftSeamImages) const
 {
-    detail::MapEvaluator evaluator(*this);
+    detail::MapEvaluator evaluator(m_posPairs, m_srcSegmentCount, m_dstSegmentCount);
     if (evaluator.IsIllFormed())
     {
         return {};

@@ -105,7 +105,7 @@ double PosRangeD::NormalizePos(const double& pos, const int& segmentCount)
 
 double PosRangeD::NormalizePos(const double& pos, const PosRangeD& range, const int& segmentCount)
 {
-    return detail::LapMover(range, segmentCount)(pos);
+    return detail::LapMover({range.start, range.end}, segmentCount)(pos);
 }
 
 bool PosRangeD::IsEmpty() const

@@ -13,6 +13,16 @@ namespace math::detail
 /// The failure value of functions that answer with positions.
 inline constexpr double NoPosition = -1.0;
 
+/// Two positions as they stand: a PosRangeD without its conventions.
+struct Span
+{
+    double start;
+    double end;
+};
+
+/// What stands for the span of a map without one.
+inline constexpr Span NoSpan{NoPosition, NoPosition};
+
 /// The nearest `int`.
 int SaturateToInt(std::int64_t value);
 
