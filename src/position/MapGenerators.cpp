@@ -5,6 +5,7 @@
 #include "position/Positions.h"
 #include "primitives/Tolerance.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
@@ -25,7 +26,7 @@ namespace
 /// Some neighbours of a range list that share one stretch of the destination.
 struct RangeGroup
 {
-    PosRangeD range;
+    detail::Span range;
     int segmentCount;
 
     bool HasImage() const
@@ -37,6 +38,7 @@ struct RangeGroup
 std::vector<RangeGroup> GroupEqualNeighbours(const std::vector<PosRangeD>& ranges)
 {
     std::vector<RangeGroup> groups;
+    groups.reserve(ranges.size());
     for (std::size_t i = 0; i < ranges.size(); ++i)
     {
         if (i > 0 && ranges[i] == ranges[i - 1])
@@ -45,7 +47,7 @@ std::vector<RangeGroup> GroupEqualNeighbours(const std::vector<PosRangeD>& range
         }
         else
         {
-            groups.push_back({ranges[i], 1});
+            groups.push_back({{ranges[i].start, ranges[i].end}, 1});
         }
     }
     return groups;
@@ -59,7 +61,7 @@ JointList JointsOfOneGroup(const RangeGroup& group, int dstSegmentCount)
     {
         return {{0.0, 0.0}, {sourceEnd, 0.0}};
     }
-    const PosRangeD& range = group.range;
+    const detail::Span& range = group.range;
     const double destinationEnd = range.end < range.start ? range.end + dstSegmentCount : range.end;
     return {{0.0, range.start}, {sourceEnd, destinationEnd}};
 }
@@ -74,14 +76,15 @@ double CollapsedPosition(const std::vector<RangeGroup>& groups, std::size_t inde
 JointList JointsOfGroups(const std::vector<RangeGroup>& groups)
 {
     JointList joints;
+    joints.reserve(2 * groups.size());
     double source = 0.0;
     for (std::size_t i = 0; i < groups.size(); ++i)
     {
-        PosRangeD image = groups[i].range;
+        detail::Span image = groups[i].range;
         if (!groups[i].HasImage())
         {
             const double collapsed = CollapsedPosition(groups, i);
-            image = PosRangeD(collapsed, collapsed);
+            image = {collapsed, collapsed};
         }
         joints.emplace_back(source, image.start);
         source += groups[i].segmentCount;
@@ -130,15 +133,27 @@ JointList JointsOfStretch(double start, double end)
     return joints;
 }
 
-/// The destination segment at a source position that has images, or -1.
-int ImageSegment(const std::vector<double>& images, int dstSegmentCount)
+/// Finds the first image of a source position, if it has any.
+bool FindFirstImage(detail::MapEvaluator& evaluator, double position, double& first)
 {
-    if (images.empty() || dstSegmentCount == 0)
+    bool isFound = false;
+    evaluator.ForEachImage(position, [&](double image) {
+        first = isFound ? first : image;
+        isFound = true;
+    });
+    return isFound;
+}
+
+/// The segment of a closed polyline at a position on any lap.
+int SegmentAt(double position, int segmentCount)
+{
+    const int segment = PosRangeD::GetSegmentIndex(position);
+    if (segment >= 0 && segment < segmentCount)
     {
-        return -1;
+        return segment;
     }
-    const std::int64_t segment = PosRangeD::GetSegmentIndex(images.front());
-    return static_cast<int>(segment % dstSegmentCount);
+    // Wide enough for the least int divided by -1.
+    return segmentCount == 0 ? -1 : static_cast<int>(std::int64_t{segment} % segmentCount);
 }
 
 } // namespace
@@ -176,28 +191,33 @@ CPolyPosMap CPolyPosMapUtilies::GeneratePosMapFromSegmentMap(const std::vector<i
                                                              const int& dstSegmentCount)
 {
     JointList joints;
+    joints.reserve(2 * segmentMap.size());
     double source = 0.0;
+    double reached = 0.0; // the destination of the last joint
     for (const int segment : segmentMap)
     {
         const double nextSource = source + 1.0;
         const double segmentEnd = segment + 1.0;
         if (segment == -1)
         {
-            const double collapsed = joints.empty() ? 0.0 : joints.back().second;
             if (joints.empty())
             {
-                joints.emplace_back(source, collapsed);
+                joints.emplace_back(source, reached);
             }
-            joints.emplace_back(nextSource, collapsed);
+            joints.emplace_back(nextSource, reached);
         }
-        else if (!joints.empty() && joints.back().second == segmentEnd)
+        else if (!joints.empty() && reached == segmentEnd)
         {
-            joints.back() = {nextSource, segmentEnd};
+            joints.back().first = nextSource;
         }
         else
         {
-            joints.emplace_back(source, segment);
-            joints.emplace_back(nextSource, segmentEnd);
+            if (joints.empty() || reached != segment)
+            {
+                joints.push_back({source, static_cast<double>(segment)});
+            }
+            joints.push_back({nextSource, segmentEnd});
+            reached = segmentEnd;
         }
         source = nextSource;
     }
@@ -209,15 +229,16 @@ std::vector<int> CPolyPosMapUtilies::GetSegmentMapFronPosMap(const CPolyPosMap& 
 {
     detail::MapEvaluator evaluator(map.PosPairs(), map.SrcSegmentCount(), map.DstSegmentCount());
     std::vector<int> segments;
-    std::vector<double> atStart;
-    std::vector<double> atEnd;
-    evaluator.AppendImages(0.0, atEnd);
+    segments.reserve(static_cast<std::size_t>(std::max(map.SrcSegmentCount(), 0)));
+    double start = 0.0;
+    double end = 0.0;
+    bool hasStart = FindFirstImage(evaluator, 0.0, start);
     for (int i = 0; i < map.SrcSegmentCount(); ++i)
     {
-        atStart.swap(atEnd);
-        atEnd.clear();
-        evaluator.AppendImages(static_cast<double>(i) + 1.0, atEnd);
-        segments.push_back(atEnd.empty() ? -1 : ImageSegment(atStart, map.DstSegmentCount()));
+        const bool hasEnd = FindFirstImage(evaluator, static_cast<double>(i) + 1.0, end);
+        segments.push_back(hasStart && hasEnd ? SegmentAt(start, map.DstSegmentCount()) : -1);
+        start = end;
+        hasStart = hasEnd;
     }
     for (std::size_t i = 1; i < segments.size(); ++i)
     {

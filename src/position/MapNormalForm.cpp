@@ -83,23 +83,13 @@ JointList FillRising(const JointList& joints, int side, const Nodes& nodes, bool
         {
             continue;
         }
-        Joint added;
-        ColumnValue(added, side) = position;
-        if (filled.empty())
+        double image = ColumnValue(filled.empty() ? joints.front() : filled.back(), otherSide);
+        if (!filled.empty() && next != joints.end())
         {
-            ColumnValue(added, otherSide) = ColumnValue(joints.front(), otherSide);
+            image = isMirrored ? detail::InterpolateBetween(*next, filled.back(), position, side)
+                               : detail::InterpolateBetween(filled.back(), *next, position, side);
         }
-        else if (next == joints.end())
-        {
-            ColumnValue(added, otherSide) = ColumnValue(filled.back(), otherSide);
-        }
-        else
-        {
-            ColumnValue(added, otherSide) = isMirrored
-                                                ? detail::InterpolateBetween(*next, filled.back(), position, side)
-                                                : detail::InterpolateBetween(filled.back(), *next, position, side);
-        }
-        filled.push_back(added);
+        filled.push_back(side == SourceSide ? Joint(position, image) : Joint(image, position));
     }
     filled.insert(filled.end(), next, joints.end());
     return filled;
@@ -155,9 +145,14 @@ void Fill(CPolyPosMap& map, int side)
     {
         return;
     }
-    const bool wasUp = map.IsIncrease(SourceSide);
-    map.Normalize();
-    if (!map.IsIncrease(SourceSide))
+    const bool wasUp = detail::RunsUpward(map.PosPairs(), SourceSide);
+    bool isUp = wasUp;
+    if (!map.IsNormalize())
+    {
+        map.Normalize();
+        isUp = map.IsIncrease(SourceSide);
+    }
+    if (!isUp)
     {
         map.Invert();
     }
