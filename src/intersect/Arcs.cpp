@@ -1,5 +1,6 @@
 #include "math/Intersect.h"
 
+#include "intersect/BoundedLine.h"
 #include "intersect/PointOutputs.h"
 #include "primitives/Constants.h"
 #include "primitives/Straight.h"
@@ -120,10 +121,14 @@ int Intersect_BeelineWithArc(const DPOINT2& point, double angle, const DPOINT2& 
 int Intersect_LineWithArc(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre, double radius,
                           double start, double sweep, DPOINT2* first, DPOINT2* second)
 {
-    const double angle = D2GetNormalAngle(secondEnd.x - firstEnd.x, secondEnd.y - firstEnd.y);
+    const detail::BoundedLine stretch(firstEnd, secondEnd);
+    if (stretch.IsClearOfRing(centre, radius, radius))
+    {
+        return 0;
+    }
     TwoPoints onCircle;
-    onCircle.count = Intersect_BeelineWithCircle(firstEnd, angle, centre, radius, &onCircle.first, &onCircle.second);
-    const detail::StretchClip stretch(firstEnd, secondEnd);
+    onCircle.count =
+        Intersect_BeelineWithCircle(firstEnd, stretch.Angle(), centre, radius, &onCircle.first, &onCircle.second);
     return KeepAndWrite(onCircle, first, second, [&](const DPOINT2& candidate) {
         return stretch.Holds(candidate) && IsOnArc(candidate, centre, radius, start, sweep);
     });

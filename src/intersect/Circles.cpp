@@ -1,5 +1,6 @@
 #include "math/Intersect.h"
 
+#include "intersect/BoundedLine.h"
 #include "intersect/PointOutputs.h"
 #include "primitives/Beeline.h"
 #include "primitives/Meetings.h"
@@ -108,10 +109,14 @@ int Intersect_BeelineWithCircle(const DPOINT2& point, double angle, const DPOINT
 int Intersect_LineWithCircle(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre, double radius,
                              DPOINT2* first, DPOINT2* second)
 {
-    const double angle = D2GetNormalAngle(secondEnd.x - firstEnd.x, secondEnd.y - firstEnd.y);
+    const detail::BoundedLine stretch(firstEnd, secondEnd);
+    if (stretch.IsClearOfRing(centre, radius, radius))
+    {
+        return 0;
+    }
     TwoPoints onCircle;
-    onCircle.count = Intersect_BeelineWithCircle(firstEnd, angle, centre, radius, &onCircle.first, &onCircle.second);
-    const detail::StretchClip stretch(firstEnd, secondEnd);
+    onCircle.count =
+        Intersect_BeelineWithCircle(firstEnd, stretch.Angle(), centre, radius, &onCircle.first, &onCircle.second);
     return KeepAndWrite(onCircle, first, second, [&](const DPOINT2& candidate) { return stretch.Holds(candidate); });
 }
 

@@ -1,5 +1,6 @@
 #include "math/Intersect.h"
 
+#include "intersect/BoundedLine.h"
 #include "intersect/EllipseCut.h"
 #include "intersect/EllipseSector.h"
 #include "intersect/PointOutputs.h"
@@ -62,9 +63,8 @@ int Intersect_BeelineWithEllipseArc(const DPOINT2& point, double angle, const DP
 int Intersect_LineWithEllipse(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre, double a,
                               double b, double rotation, DPOINT2* first, DPOINT2* second)
 {
-    const double angle = D2GetNormalAngle(secondEnd.x - firstEnd.x, secondEnd.y - firstEnd.y);
-    const TwoPoints found = CutEllipse(firstEnd, angle, centre, a, b, rotation);
-    const detail::StretchClip stretch(firstEnd, secondEnd);
+    const detail::BoundedLine stretch(firstEnd, secondEnd);
+    const TwoPoints found = CutEllipse(firstEnd, stretch.Angle(), centre, a, b, rotation);
     return detail::KeepAndWrite(found, first, second,
                                 [&](const DPOINT2& candidate) { return stretch.Holds(candidate); });
 }
@@ -80,13 +80,12 @@ int Intersect_LineWithEllipse(const DPOINT2& firstEnd, const DPOINT2& secondEnd,
 int Intersect_LineWithEllipseArc(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre, double a,
                                  double b, double rotation, double start, double sweep, DPOINT2* first, DPOINT2* second)
 {
-    const double angle = D2GetNormalAngle(secondEnd.x - firstEnd.x, secondEnd.y - firstEnd.y);
-    TwoPoints found;
-    found.count = Intersect_BeelineWithEllipseArc(firstEnd, angle, centre, a, b, rotation, start, sweep, &found.first,
-                                                  &found.second);
-    const detail::StretchClip stretch(firstEnd, secondEnd);
-    return detail::KeepAndWrite(found, first, second,
-                                [&](const DPOINT2& candidate) { return stretch.Holds(candidate); });
+    const detail::BoundedLine stretch(firstEnd, secondEnd);
+    const TwoPoints found = CutEllipse(firstEnd, stretch.Angle(), centre, a, b, rotation);
+    return detail::KeepAndWrite(found, first, second, [&](const DPOINT2& candidate) {
+        return stretch.Holds(candidate) &&
+               detail::IsPointInEllipseSector(candidate, centre, rotation, start, std::abs(sweep), sweep > 0);
+    });
 }
 
 int Intersect_LineWithEllipseArc(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre, double a,

@@ -3,6 +3,7 @@
 #include "intersect/PointOutputs.h"
 #include "primitives/Beeline.h"
 #include "primitives/Meetings.h"
+#include "primitives/PlaneVectors.h"
 #include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
 #include "primitives/Verdict.h"
@@ -16,11 +17,13 @@ namespace math
 
 using detail::AppendOne;
 using detail::AreEqual;
-using detail::CityBlockNorm;
 using detail::CoincideByCoordinates;
+using detail::Cross;
 using detail::CurvesCoincide;
+using detail::Difference;
 using detail::MakeLineOfBeeline;
 using detail::NoPoint;
+using detail::Reach;
 using detail::StraightLine;
 using detail::Verdict;
 using detail::Write;
@@ -48,7 +51,7 @@ struct Stretch
 
     DPOINT2 Along() const
     {
-        return detail::Difference(second, first);
+        return Difference(second, first);
     }
 
     double Least(double DPOINT2::*axis) const
@@ -77,11 +80,6 @@ int MeetOnOneLine(const Stretch& a, const Stretch& b, DPOINT2& point)
     return apart ? 0 : CurvesCoincide;
 }
 
-double Cross(const DPOINT2& a, const DPOINT2& b)
-{
-    return a.x * b.y - a.y * b.x;
-}
-
 /// A first look at where the lines of two stretches cross: inside both stretches or beyond an end of one of them, by far
 /// more than tolerance and rounding. Nothing is sure of lines nearly parallel, of lengths whose squares leave the range
 /// of numbers, far from the origin, and of NaN.
@@ -89,8 +87,8 @@ Verdict LookAtCrossing(const Stretch& a, const Stretch& b)
 {
     const DPOINT2 alongA = a.Along();
     const DPOINT2 alongB = b.Along();
-    const double lengthOfA = CityBlockNorm(alongA);
-    const double lengthOfB = CityBlockNorm(alongB);
+    const double lengthOfA = Reach(alongA);
+    const double lengthOfB = Reach(alongB);
     const double cross = Cross(alongA, alongB);
     const double size = std::abs(cross);
     const auto isModerate = [](double length) { return 1e-100 < length && length < 1e100; };
@@ -99,10 +97,10 @@ Verdict LookAtCrossing(const Stretch& a, const Stretch& b)
         return Verdict::Unsure;
     }
     // The place of the crossing on each stretch, counted from its middle, in units in which its ends are at ±size.
-    const DPOINT2 between = detail::Difference(b.first, a.first);
+    const DPOINT2 between = Difference(b.first, a.first);
     const double placeOnA = std::abs(2.0 * Cross(between, alongB) - cross);
     const double placeOnB = std::abs(2.0 * Cross(between, alongA) - cross);
-    const double margin = 2e-8 + 2e-12 * (lengthOfA + lengthOfB + CityBlockNorm(between));
+    const double margin = 2e-8 + 2e-12 * (lengthOfA + lengthOfB + Reach(between));
     // One comparison for both stretches: which of them is missed cannot be foretold.
     if (std::max(placeOnA - margin * lengthOfB, placeOnB - margin * lengthOfA) > size)
     {
@@ -110,7 +108,7 @@ Verdict LookAtCrossing(const Stretch& a, const Stretch& b)
     }
     const bool isInside = std::max(placeOnA + margin * lengthOfB, placeOnB + margin * lengthOfA) < size;
     // The error of the point grows with the coordinates and as the lines become parallel.
-    const double coordinates = CityBlockNorm(a.first) + CityBlockNorm(b.first);
+    const double coordinates = Reach(a.first) + Reach(b.first);
     const bool isPointSure = coordinates * lengthOfA * lengthOfB < 1e4 * size;
     return isInside && isPointSure ? Verdict::Inside : Verdict::Unsure;
 }
@@ -151,7 +149,7 @@ bool BoxesAreApart(const Stretch& a, const Stretch& b, double DPOINT2::*axis)
 bool LiesOnOneSide(const Stretch& tested, const Stretch& base)
 {
     const DPOINT2 along = base.Along();
-    const auto side = [&](const DPOINT2& end) { return Cross(along, detail::Difference(end, base.first)); };
+    const auto side = [&](const DPOINT2& end) { return Cross(along, Difference(end, base.first)); };
     return side(tested.second) * -side(tested.first) < 0.0;
 }
 

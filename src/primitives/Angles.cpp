@@ -2,7 +2,9 @@
 
 #include "math/Primitives.h"
 #include "primitives/Constants.h"
+#include "primitives/Direction.h"
 #include "primitives/Fold.h"
+#include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
 
 #include <cmath>
@@ -151,12 +153,9 @@ double D2GetIncludeAngle(const gp_Vec2d& a, const gp_Vec2d& b)
 
 double D2GetNormalAngle(double x, double y)
 {
-    const double angle = D2RotateAngle(gp_Vec2d(1.0, 0.0), gp_Vec2d(x, y));
-    if (std::isnan(angle))
-    {
-        return angle;
-    }
-    return RegularizeRadian(angle);
+    detail::UnitVector direction{};
+    detail::Normalize(x, y, direction);
+    return detail::NormalAngle({x, y}, direction);
 }
 
 double D2GetNormalAngle(const DPOINT2& vector)

@@ -11,17 +11,6 @@
 namespace math::detail
 {
 
-inline DPOINT2 Difference(const DPOINT2& to, const DPOINT2& from)
-{
-    return {to.x - from.x, to.y - from.y};
-}
-
-/// Never shorter than the length of a vector, and at most √2 times as long.
-inline double CityBlockNorm(const DPOINT2& vector)
-{
-    return std::abs(vector.x) + std::abs(vector.y);
-}
-
 struct UnitVector
 {
     double x;
@@ -77,27 +66,5 @@ inline bool IsOnStretch(const DPOINT2& point, const StraightLine& line, const DP
     return std::abs(start.x - end.x) > std::abs(start.y - end.y) ? isBetween(point.x, start.x, end.x)
                                                                  : isBetween(point.y, start.y, end.y);
 }
-
-/// A stretch of a line, for many points.
-class StretchClip
-{
-public:
-    StretchClip(const DPOINT2& start, const DPOINT2& end)
-        : m_hasDirection(MakeLineThrough(start, end, m_line)),
-          m_end(end)
-    {
-    }
-
-    /// As IsPointInLine with DoubleTolerance.
-    bool Holds(const DPOINT2& point) const
-    {
-        return m_hasDirection && IsOnStretch(point, m_line, m_end, DoubleTolerance);
-    }
-
-private:
-    StraightLine m_line{};
-    bool m_hasDirection;
-    DPOINT2 m_end;
-};
 
 } // namespace math::detail

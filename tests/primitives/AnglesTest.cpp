@@ -497,3 +497,39 @@ TEST(RotationBetweenVectors, TurnsTheFirstIntoTheSecond)
         EXPECT_TRUE(Near(D2GetIncludeAngle(a, b), std::abs(turn), 1e-13));
     }
 }
+
+// The angle from the x axis is that of the toolkit, bit for bit.
+TEST(NormalAngle, IsTheToolkitsAngleFromTheXAxis)
+{
+    Random random(51);
+    const auto turned = [](const DPOINT2& vector) {
+        const double angle = gp_Vec2d(1.0, 0.0).Angle(gp_Vec2d(vector.x, vector.y));
+        const double positive = angle < 0.0 ? angle + TwoPi : angle;
+        return positive >= TwoPi ? positive - TwoPi : positive;
+    };
+    for (int i = 0; i < 200000; ++i)
+    {
+        DPOINT2 vector = random.Point(random.Size(1e-3, 1e6));
+        switch (random.Integer(0, 3))
+        {
+        case 0: // near the diagonals, where the inverse functions change over
+            vector.y = Stepped(vector.x, random.Integer(-60, 60)) * (random.Coin() ? 1 : -1);
+            break;
+        case 1: // on the axes, zeros of either sign
+            (random.Coin() ? vector.x : vector.y) = random.Coin() ? 0.0 : -0.0;
+            break;
+        case 2: // near the axes
+            (random.Coin() ? vector.x : vector.y) *= random.Size(1e-18, 1e-6);
+            break;
+        default:
+            break;
+        }
+        ASSERT_TRUE(SameBits(D2GetNormalAngle(vector), turned(vector))) << i;
+    }
+    for (const double infinite : {Infinity, -Infinity})
+    {
+        EXPECT_TRUE(std::isnan(D2GetNormalAngle(infinite, 1.0)));
+        EXPECT_TRUE(std::isnan(D2GetNormalAngle(1.0, infinite)));
+        EXPECT_TRUE(std::isnan(D2GetNormalAngle(infinite, infinite)));
+    }
+}

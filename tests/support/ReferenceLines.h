@@ -1,6 +1,10 @@
 #pragma once
 
+#include "math/Intersect.h"
 #include "math/Primitives.h"
+#include "support/Support.h"
+
+#include <gp_Vec2d.hxx>
 
 #include <algorithm>
 #include <cmath>
@@ -137,6 +141,61 @@ inline int LineWithLine(const DPOINT2& a, const DPOINT2& b, const DPOINT2& c, co
     }
     point = crossing;
     return 1;
+}
+
+/// The angle of the way between two points from the x axis, by the toolkit.
+inline double AngleOfWay(const DPOINT2& from, const DPOINT2& to)
+{
+    const double x = to.x - from.x;
+    const double y = to.y - from.y;
+    if (std::abs(x) < 1e-9 && std::abs(y) < 1e-9)
+    {
+        return InvalidDouble;
+    }
+    double angle = gp_Vec2d(1.0, 0.0).Angle(gp_Vec2d(x, y));
+    while (angle < 0.0)
+    {
+        angle += TwoPi;
+    }
+    while (angle >= TwoPi)
+    {
+        angle -= TwoPi;
+    }
+    return angle;
+}
+
+/// The points of `found` that lie on a stretch and are `kept`, at the front; their number.
+template <typename Kept>
+int KeepOnStretch(int count, DPOINT2 (&found)[2], const DPOINT2& from, const DPOINT2& to, const Kept& kept)
+{
+    int left = 0;
+    for (int i = 0; i < count; ++i)
+    {
+        if (IsOnStretch(found[i], from, to) && kept(found[i]))
+        {
+            found[left] = found[i];
+            ++left;
+        }
+    }
+    return left;
+}
+
+/// A stretch with a circle: the points of the beeline that carries it, clipped.
+inline int LineWithCircle(const DPOINT2& from, const DPOINT2& to, const DPOINT2& centre, double radius,
+                          DPOINT2 (&found)[2])
+{
+    const int count = Intersect_BeelineWithCircle(from, AngleOfWay(from, to), centre, radius, &found[0], &found[1]);
+    return KeepOnStretch(count, found, from, to, [](const DPOINT2&) { return true; });
+}
+
+/// The same with an arc.
+inline int LineWithArc(const DPOINT2& from, const DPOINT2& to, const DPOINT2& centre, double radius, double start,
+                       double sweep, DPOINT2 (&found)[2])
+{
+    const int count = Intersect_BeelineWithCircle(from, AngleOfWay(from, to), centre, radius, &found[0], &found[1]);
+    return KeepOnStretch(count, found, from, to, [&](const DPOINT2& point) {
+        return IsPointInArc(point, centre, radius, start, std::abs(sweep), sweep > 0.0);
+    });
 }
 
 } // namespace math::test::reference
