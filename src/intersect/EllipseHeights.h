@@ -37,6 +37,7 @@ public:
         const double flatness = std::max(a / b, b / a);
         const double reach = std::abs(centre.x) + std::abs(centre.y) + a + b;
         m_heightMargin = 1e-12 * flatness * flatness * reach;
+        m_missReach = std::sqrt(std::max(0.5e9 / (flatness * flatness) - std::max(a * a, b * b), 0.0) * 0.5);
         m_angleMargin = (m_heightMargin + 2.0 * DoubleTolerance) * flatness / std::min(a, b);
     }
 
@@ -50,6 +51,13 @@ public:
     double SureReach() const
     {
         return 0.9995 * m_halfWidth;
+    }
+
+    /// How far from the centre a vertical beside the ellipse surely counts as one that misses it. The quadratic of one
+    /// farther out may be taken for a linear equation, which always has a root.
+    double MissReach() const
+    {
+        return m_missReach;
     }
 
     /// Whether a direction from the centre leads to the upper half.
@@ -92,6 +100,7 @@ private:
     double m_rise = 0.0;
     double m_heightMargin = 0.0;
     double m_angleMargin = 0.0;
+    double m_missReach = 0.0;
 };
 
 } // namespace math::detail

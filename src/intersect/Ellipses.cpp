@@ -1,5 +1,7 @@
 #include "math/Intersect.h"
 
+#include "intersect/ArcCrossings.h"
+#include "intersect/ArcPairs.h"
 #include "intersect/FourPoints.h"
 #include "intersect/QuarterArcs.h"
 #include "math/Primitives.h"
@@ -97,28 +99,30 @@ struct PointsOfPairs
     }
 };
 
+std::array<detail::EllipseQuarterArc, 4> ArcsOf(const detail::QuarteredEllipse& ellipse)
+{
+    return {ellipse.Arc(0), ellipse.Arc(1), ellipse.Arc(2), ellipse.Arc(3)};
+}
+
 PointsOfPairs MeetQuarterArcs(const Ellipse& first, const Ellipse& second)
 {
     const detail::QuarteredEllipse quarteredFirst(first.centre, first.a, first.b, first.rotation);
     const detail::QuarteredEllipse quarteredSecond(second.centre, second.a, second.b, second.rotation);
-    const std::array arcsOfSecond = {quarteredSecond.Arc(0), quarteredSecond.Arc(1), quarteredSecond.Arc(2),
-                                     quarteredSecond.Arc(3)};
-    PointsOfPairs shared;
-    for (std::size_t i = 0; i < arcsOfSecond.size(); ++i)
+    const auto arcsOfFirst = ArcsOf(quarteredFirst);
+    const auto arcsOfSecond = ArcsOf(quarteredSecond);
+    detail::ArcMeetings meetings;
+    for (const detail::EllipseQuarterArc& arcOfFirst : arcsOfFirst)
     {
-        const detail::EllipseQuarterArc arcOfFirst = quarteredFirst.Arc(i);
         for (const detail::EllipseQuarterArc& arcOfSecond : arcsOfSecond)
         {
-            const detail::TwoPoints found = detail::IntersectQuarterArcs(arcOfFirst, arcOfSecond);
-            if (found.count > 0)
-            {
-                shared.Add(found.first);
-            }
-            if (found.count > 1)
-            {
-                shared.Add(found.second);
-            }
+            detail::IntersectQuarterArcs(arcOfFirst, arcOfSecond, meetings);
         }
+    }
+    PointsOfPairs shared;
+    const auto& points = meetings.Points();
+    for (std::size_t i = 0; i < meetings.Count(); ++i)
+    {
+        shared.Add(points[i]);
     }
     return shared;
 }

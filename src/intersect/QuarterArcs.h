@@ -11,9 +11,8 @@
 #include <cstddef>
 #include <limits>
 
-/// How two ellipses meet: each is cut at its extreme points into four quarter arcs. Over a quarter arc y is a function
-/// of x, so a vertical meets it once, and two of them are compared by height and slope at the ends of their shared
-/// range.
+/// An ellipse is cut at its extreme points into four quarter arcs. Over a quarter arc y is a function of x, so a vertical
+/// meets it once.
 namespace math::detail
 {
 
@@ -55,7 +54,8 @@ public:
         {
             return Verdict::Inside;
         }
-        const bool isBeside = x < m_span.left.x - m_clearance || x > m_span.right.x + m_clearance;
+        const bool isBeside = (m_missLeft < x && x < m_span.left.x - m_clearance) ||
+                              (m_span.right.x + m_clearance < x && x < m_missRight);
         return isBeside ? Verdict::Outside : Verdict::Unsure;
     }
 
@@ -76,9 +76,11 @@ private:
     ArcSpan m_span;
     double m_side = 1.0;      ///< 1 on the upper half of the ellipse, -1 on the lower one
     bool m_isFarther = false; ///< of the two points of a vertical
-    double m_clearance = std::numeric_limits<double>::infinity();
+    double m_clearance = 0.0;
     double m_sureLeft = std::numeric_limits<double>::infinity();
     double m_sureRight = -std::numeric_limits<double>::infinity();
+    double m_missLeft = std::numeric_limits<double>::infinity();
+    double m_missRight = -std::numeric_limits<double>::infinity();
 };
 
 /// An ellipse cut at the four points with a horizontal or vertical tangent into arcs in the order of their polar
@@ -136,7 +138,16 @@ inline const EllipseHeights& EllipseQuarterArc::Heights() const
     return m_ellipse->m_heights;
 }
 
-/// The points that two quarter arcs share, found by height, slope and bisection: 0, 1 or 2.
-TwoPoints IntersectQuarterArcs(const EllipseQuarterArc& arcA, const EllipseQuarterArc& arcB);
+/// Whether the vertical through x surely meets both arcs.
+inline bool AreSurelyMetAt(const EllipseQuarterArc& arcA, const EllipseQuarterArc& arcB, double x)
+{
+    return arcA.IsMetAt(x) == Verdict::Inside && arcB.IsMetAt(x) == Verdict::Inside;
+}
+
+/// The estimated height difference beyond which both arcs are clear of each other.
+inline double HeightMargin(const EllipseQuarterArc& arcA, const EllipseQuarterArc& arcB)
+{
+    return DoubleTolerance + arcA.Heights().HeightMargin() + arcB.Heights().HeightMargin();
+}
 
 } // namespace math::detail

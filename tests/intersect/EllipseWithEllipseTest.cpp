@@ -491,6 +491,52 @@ TEST(IntersectEllipseWithEllipse, AgreesWithTheStepsWrittenOut)
     }
 }
 
+TEST(IntersectEllipseWithEllipse, AgreesWithTheStepsWrittenOutAtTheEdgesOfOrdinaryFigures)
+{
+    // Where most halvings are decided by estimates, and just beyond: great and small figures, flat ones, far out, and
+    // turned by nearly a quarter. The second passes through a point of the first or touches it there.
+    Random random(74);
+    const auto flattened = [&](double size) {
+        const double other = size / random.Number(1.0, 17.0);
+        const bool isTurned = random.Integer(0, 3) == 0;
+        const double rotation = random.Integer(-4, 4) * HalfPi + (random.Coin() ? random.Number(-1e-8, 1e-8) : 0.0);
+        return Ellipse{random.Point(1.0), isTurned ? other : size, isTurned ? size : other,
+                       random.Coin() ? rotation : random.Number(-8.5, 8.5)};
+    };
+    int compared = 0;
+    int met = 0;
+    for (int i = 0; i < 12000; ++i)
+    {
+        const bool isGreat = i % 2 == 0;
+        const auto size = [&] { return isGreat ? random.Size(1e3, 1.1e4) : random.Size(0.2, 4.0); };
+        const DPOINT2 far = random.Point(i % 3 == 0 ? 0.0 : 1.1e4);
+        const Ellipse a = Moved(flattened(size()), far.x, far.y);
+        Ellipse b = flattened(size());
+        const DPOINT2 shared = AtEccentric(a, random.Radian());
+        const double own = random.Radian();
+        if (i % 4 == 0)
+        {
+            b.rotation += TangentAt(a, shared) - TangentAt(b, AtEccentric(b, own));
+        }
+        const DPOINT2 there = AtEccentric(b, own);
+        b = Moved(b, shared.x - there.x, shared.y - there.y);
+        reference::QuarterArcMethod method;
+        const FourResult expected = WrittenOut(a, b, method);
+        if (method.MetUnending())
+        {
+            continue;
+        }
+        ++compared;
+        met += expected.code > 0 ? 1 : 0;
+        ASSERT_TRUE(SameOutputs(OutputsOf(Meeting(a, b)), expected))
+            << i << ": " << ::testing::PrintToString(a.centre) << ' ' << Digits(a.a) << ' ' << Digits(a.b) << ' '
+            << Digits(a.rotation) << " with " << ::testing::PrintToString(b.centre) << ' ' << Digits(b.a) << ' '
+            << Digits(b.b) << ' ' << Digits(b.rotation);
+    }
+    EXPECT_GT(compared, 11900);
+    EXPECT_GT(met, 7000);
+}
+
 // Against another method
 
 TEST(IntersectEllipseWithEllipse, FindsTheZerosAlongTheFirst)
