@@ -162,6 +162,10 @@ public:
     /// column, turned back after the filling. So with a downward source and an upward destination the sides change
     /// their meaning: side 1 fills the destination. When both columns run down the map stays turned over: columns and
     /// counts come out swapped. An unknown side fills nothing, but normalises and turns the same way.
+    ///
+    /// Not for a side that runs up past 2n - 1, or down from above n + 1, where n is its count: nodes are put below its
+    /// lower end then, and joints are lost for them. (0, 1.25) (2, 3.25) with the counts 2 and 2, filled on side 2,
+    /// becomes (0, 0) (0, 1) (0, 1.25) (0.75, 2). Insert gives such a map the joints one by one.
     void FillAllSegmentNode(const int& side);
 
     /// Takes out the corners of small staircases, then repeated and straight joints.
