@@ -122,7 +122,7 @@ int Intersect_LineWithArc(const DPOINT2& firstEnd, const DPOINT2& secondEnd, con
                           double start, double sweep, DPOINT2* first, DPOINT2* second)
 {
     const detail::BoundedLine stretch(firstEnd, secondEnd);
-    if (stretch.IsClearOfRing(centre, radius, radius))
+    if (stretch.IsClearOfCircle(centre, radius))
     {
         return 0;
     }

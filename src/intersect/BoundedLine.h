@@ -5,10 +5,32 @@
 #include "primitives/PlaneVectors.h"
 #include "primitives/Straight.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace math::detail
 {
+
+/// Tells whether a stretch stays clear of the circle of a radius about the origin, inside it or outside, by more than
+/// `margin`. The squares of all coordinates have to be within the range of numbers. False for NaN.
+inline bool IsClearOfCircle(const DPOINT2& start, const DPOINT2& end, double radius, double margin)
+{
+    const double inside = radius - margin;
+    const double outside = radius + margin;
+    const double startSquare = Dot(start, start);
+    const double endSquare = Dot(end, end);
+    if (inside > 0.0 && std::max(startSquare, endSquare) < inside * inside)
+    {
+        return true;
+    }
+    const double square = outside * outside;
+    const DPOINT2 along = Difference(end, start);
+    const double offset = Cross(along, start);
+    const bool isBeside = offset * offset > square * Dot(along, along);
+    const bool isBeyondStart = startSquare > square && Dot(along, start) > 0.0;
+    const bool isBeyondEnd = endSquare > square && Dot(along, end) < 0.0;
+    return isBeside || isBeyondStart || isBeyondEnd;
+}
 
 /// A stretch of a straight line against curves: the angle of the beeline that carries it, and the test whether the
 /// beeline's points lie on it. One root serves both.
@@ -33,34 +55,15 @@ public:
         return m_hasDirection && IsOnStretch(point, m_line, m_end, DoubleTolerance);
     }
 
-    /// Tells whether the stretch stays clear of a ring between two circles about one centre, by far more than tolerance
-    /// and rounding: inside both or outside both. Nothing is clear of NaN, and of lengths whose squares leave the range of
-    /// numbers.
-    bool IsClearOfRing(const DPOINT2& centre, double innerRadius, double outerRadius) const
+    /// Tells whether the stretch stays clear of a circle by far more than tolerance and rounding. Nothing is clear of NaN,
+    /// and of lengths whose squares leave the range of numbers.
+    bool IsClearOfCircle(const DPOINT2& centre, double radius) const
     {
-        const DPOINT2 along = Difference(m_end, m_line.location);
-        const DPOINT2 toStart = Difference(m_line.location, centre);
-        const DPOINT2 toEnd = Difference(m_end, centre);
-        const double reach = Reach(centre) + Reach(toStart) + Reach(toEnd) + outerRadius;
-        if (!(Reach(along) > 1e-50 && reach < 1e50))
-        {
-            return false;
-        }
-        const double margin = 1e-8 + 1e-12 * reach;
-        const double inside = innerRadius - margin;
-        const double outside = outerRadius + margin;
-        const double startSquare = Dot(toStart, toStart);
-        const double endSquare = Dot(toEnd, toEnd);
-        if (inside > 0.0 && std::max(startSquare, endSquare) < inside * inside)
-        {
-            return true;
-        }
-        const double square = outside * outside;
-        const double offset = Cross(along, toStart);
-        const bool isBeside = offset * offset > square * Dot(along, along);
-        const bool isBeyondStart = startSquare > square && Dot(along, toStart) > 0.0;
-        const bool isBeyondEnd = endSquare > square && Dot(along, toEnd) < 0.0;
-        return isBeside || isBeyondStart || isBeyondEnd;
+        const DPOINT2 start = Difference(m_line.location, centre);
+        const DPOINT2 end = Difference(m_end, centre);
+        const double reach = Reach(centre) + Reach(start) + Reach(end) + radius;
+        return Reach(Difference(end, start)) > 1e-50 && reach < 1e50 &&
+               detail::IsClearOfCircle(start, end, radius, 1e-8 + 1e-12 * reach);
     }
 
 private:

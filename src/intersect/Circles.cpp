@@ -110,7 +110,7 @@ int Intersect_LineWithCircle(const DPOINT2& firstEnd, const DPOINT2& secondEnd, 
                              DPOINT2* first, DPOINT2* second)
 {
     const detail::BoundedLine stretch(firstEnd, secondEnd);
-    if (stretch.IsClearOfRing(centre, radius, radius))
+    if (stretch.IsClearOfCircle(centre, radius))
     {
         return 0;
     }

@@ -12,14 +12,9 @@
 namespace math::detail
 {
 
-EllipseCut::EllipseCut(double angle, const DPOINT2& centre, double a, double b, double rotation)
-    : EllipseCut(angle, OwnFrame(centre, rotation), OwnFrame(centre, Fold(rotation, Pi)), a, b, rotation)
-{
-}
-
 EllipseCut::EllipseCut(double angle, const OwnFrame& frame, const OwnFrame& foldedFrame, double a, double b,
                        double rotation)
-    : m_frame(frame)
+    : m_chords(angle, frame, a, b, rotation)
 {
     const double foldedAngle = Fold(angle, Pi);
     m_isUpright = AreEqual(foldedAngle, HalfPi);
@@ -29,13 +24,6 @@ EllipseCut::EllipseCut(double angle, const OwnFrame& frame, const OwnFrame& fold
     const auto [ownFirst, ownSecond] = OwnTangentPoints(a, b, Fold(foldedAngle - foldedRotation, Pi));
     m_firstTangency = foldedFrame.OutOf(ownFirst);
     m_secondTangency = foldedFrame.OutOf(ownSecond);
-
-    const double frameAngle = Fold(angle - rotation, Pi);
-    m_isFlat = frameAngle <= QuarterPi || frameAngle >= ThreeQuartersPi;
-    m_slope = std::tan(m_isFlat ? frameAngle : HalfPi - frameAngle);
-    const double alongSquare = m_isFlat ? a * a : b * b;
-    m_acrossSquare = m_isFlat ? b * b : a * a;
-    m_leading = m_slope * m_slope + m_acrossSquare / alongSquare;
 }
 
 TwoPoints EllipseCut::Through(const DPOINT2& point) const
@@ -46,25 +34,7 @@ TwoPoints EllipseCut::Through(const DPOINT2& point) const
         found.count = 1;
         return found;
     }
-    const double offset = OffsetOf(point);
-    const QuadraticRoots roots = RootsThrough(offset);
-    const auto take = [&](double root, DPOINT2& output) {
-        const DPOINT2 onLine = PointAt(root, offset);
-        if (!std::isnan(onLine.x) && !std::isnan(onLine.y))
-        {
-            output = m_frame.OutOf(onLine);
-            ++found.count;
-        }
-    };
-    if (roots.count > 0)
-    {
-        take(roots.first, found.first);
-    }
-    if (roots.count > 1)
-    {
-        take(roots.second, found.second);
-    }
-    return found;
+    return m_chords.Through(point);
 }
 
 /// The point of the ellipse in which the beeline touches it, if it does.

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "intersect/OrdinaryEllipse.h"
 #include "math/Primitives.h"
 #include "primitives/OwnFrame.h"
 
@@ -21,8 +22,7 @@ public:
     /// @param rotation  of that frame
     EllipseHeights(const OwnFrame& frame, const DPOINT2& centre, double a, double b, double rotation)
         : m_centre(centre),
-          m_isOrdinary(b >= 0.25 && a >= 0.25 && a <= 1e4 && b <= 1e4 && a <= 16.0 * b && b <= 16.0 * a &&
-                       std::abs(centre.x) <= 1e4 && std::abs(centre.y) <= 1e4 && std::abs(rotation) <= 8.0)
+          m_isOrdinary(IsOrdinaryEllipse(centre, a, b, rotation))
     {
         if (!m_isOrdinary)
         {

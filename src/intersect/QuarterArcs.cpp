@@ -92,7 +92,7 @@ EllipseQuarterArc::EllipseQuarterArc(const QuarteredEllipse& ellipse, std::size_
     }
     const bool isUpper = heights.IsUpward(middle.x, middle.y);
     m_side = isUpper ? 1.0 : -1.0;
-    m_isFarther = isUpper == ellipse.m_verticals.RisesAlongOwnAxis();
+    m_isFarther = isUpper == ellipse.m_verticals.Chords().RisesAlongOwnAxis();
     m_clearance = 1e-6 * (ellipse.m_a + ellipse.m_b);
     m_sureLeft = std::max(m_span.left.x + m_clearance, ellipse.m_centre.x - heights.SureReach());
     m_sureRight = std::min(m_span.right.x - m_clearance, ellipse.m_centre.x + heights.SureReach());

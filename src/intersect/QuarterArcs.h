@@ -120,7 +120,7 @@ private:
 
 inline DPOINT2 EllipseQuarterArc::MeetingAt(double x) const
 {
-    return m_ellipse->m_verticals.CrossingThrough({x, 0.0}, m_isFarther);
+    return m_ellipse->m_verticals.Chords().CrossingThrough({x, 0.0}, m_isFarther);
 }
 
 inline double EllipseQuarterArc::HeightAt(double x) const

@@ -1,5 +1,6 @@
 #include "math/Intersect.h"
 #include "support/Ellipses.h"
+#include "support/ReferenceEllipses.h"
 
 using namespace math;
 using namespace math::test;
@@ -120,4 +121,45 @@ TEST(IntersectLineWithEllipseArc, KeepsWhatTheSecondMethodKeeps)
     EXPECT_GT(counts[0], 300);
     EXPECT_GT(counts[1], 300);
     EXPECT_GT(counts[2], 100);
+}
+
+// Most stretches do not meet the curve, and of most beelines it is clear that they do not touch it: both is told
+// beforehand for ellipses of ordinary place, size and shape.
+TEST(IntersectLineWithEllipseArc, AgreesWithTheStepsWrittenOut)
+{
+    Random random(44);
+    int counts[3] = {};
+    for (int i = 0; i < 60000; ++i)
+    {
+        Ellipse whole = RandomEllipse(random, random.Coin() ? 3.0 : random.Size(0.02, 1e5));
+        switch (random.Integer(0, 5))
+        {
+        case 0: // from round to very thin
+            whole.b = whole.a * random.Size(0.01, 1.0);
+            break;
+        case 1:
+            whole.rotation = random.Integer(-8, 8) * QuarterPi;
+            break;
+        case 2:
+            whole.centre = random.Point(random.Size(1.0, 1e6));
+            break;
+        default:
+            break;
+        }
+        const auto [from, to] = RandomStretchBy(random, whole);
+        const EllipseArc arc{whole, random.Number(-7.0, 7.0), random.Number(-TwoPi, TwoPi)};
+        DPOINT2 expected[2];
+        const int count = reference::LineWithEllipseArc(from, to, arc, expected);
+        DPOINT2 first = Untouched();
+        DPOINT2 second = Untouched();
+        const int code = Intersect_LineWithEllipseArc(from, to, whole.centre, whole.a, whole.b, whole.rotation,
+                                                      arc.start, arc.sweep, &first, &second);
+        ASSERT_EQ(code, count) << i;
+        ASSERT_TRUE(SameBits(first, count > 0 ? expected[0] : Untouched())) << i;
+        ASSERT_TRUE(SameBits(second, count > 1 ? expected[1] : Untouched())) << i;
+        ++counts[count];
+    }
+    EXPECT_GT(counts[0], 1000);
+    EXPECT_GT(counts[1], 1000);
+    EXPECT_GT(counts[2], 1000);
 }

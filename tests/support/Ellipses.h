@@ -517,6 +517,39 @@ inline Ellipse RandomEllipse(Random& random, double size = 1.0, double spread = 
     return {centre, a, b, random.Number(-7.0, 7.0)};
 }
 
+/// A stretch near an ellipse: any, with an end on the curve, along a tangent, each of them off by a hair at times, or of
+/// hardly any length.
+inline Stretch RandomStretchBy(Random& random, const Ellipse& ellipse)
+{
+    const double size = std::max(ellipse.a, ellipse.b);
+    const auto moved = [](const DPOINT2& point, double radian, double distance) {
+        return At(point.x + std::cos(radian) * distance, point.y + std::sin(radian) * distance);
+    };
+    const auto hair = [&] { return random.Coin() ? 0.0 : random.Size(1e-10, 1e-4) * (random.Coin() ? 1 : -1); };
+    const DPOINT2 on = AtEccentric(ellipse, random.Radian());
+    DPOINT2 from = moved(ellipse.centre, random.Radian(), size * random.Number(0.0, 1.5));
+    DPOINT2 to = moved(ellipse.centre, random.Radian(), size * random.Number(0.0, 1.5));
+    switch (random.Integer(0, 4))
+    {
+    case 0:
+        from = moved(on, random.Radian(), hair());
+        break;
+    case 1: {
+        const double tangent = TangentAt(ellipse, on);
+        const double aside = hair();
+        from = moved(moved(on, tangent + HalfPi, aside), tangent, size * random.Number(-1.0, 1.0));
+        to = moved(moved(on, tangent + HalfPi, aside), tangent, size * random.Number(-1.0, 1.0));
+        break;
+    }
+    case 2:
+        to = moved(from, random.Radian(), random.Coin() ? 0.0 : random.Size(1e-10, 1e-8));
+        break;
+    default:
+        break;
+    }
+    return {from, to};
+}
+
 /// The ellipse with its greater semi-axis as `a`.
 inline Ellipse LongAxisFirst(const Ellipse& ellipse)
 {

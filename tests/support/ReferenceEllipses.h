@@ -3,6 +3,7 @@
 #include "math/Intersect.h"
 #include "math/Primitives.h"
 #include "support/Ellipses.h"
+#include "support/ReferenceLines.h"
 
 #include <gp_Vec2d.hxx>
 
@@ -100,12 +101,24 @@ inline int BeelineWithEllipse(const DPOINT2& p, double angle, const Ellipse& e, 
     return count;
 }
 
+inline int LineWithEllipse(const DPOINT2& from, const DPOINT2& to, const Ellipse& e, DPOINT2 (&found)[2])
+{
+    const int count = BeelineWithEllipse(from, AngleOfWay(from, to), e, &found[0], &found[1]);
+    return KeepOnStretch(count, found, from, to, [](const DPOINT2&) { return true; });
+}
+
 inline bool InSector(const DPOINT2& p, const EllipseArc& arc)
 {
     const double q = D2GetNormalAngle(p.x - arc.whole.centre.x, p.y - arc.whole.centre.y);
     const double sign = arc.sweep > 0 ? 1.0 : -1.0;
     const double t = Fold((q - (arc.whole.rotation + arc.start)) * sign, TwoPi);
     return t <= std::abs(arc.sweep) + 1e-9 || std::abs(t - TwoPi) < 1e-9;
+}
+
+inline int LineWithEllipseArc(const DPOINT2& from, const DPOINT2& to, const EllipseArc& arc, DPOINT2 (&found)[2])
+{
+    const int count = BeelineWithEllipse(from, AngleOfWay(from, to), arc.whole, &found[0], &found[1]);
+    return KeepOnStretch(count, found, from, to, [&](const DPOINT2& point) { return InSector(point, arc); });
 }
 
 inline int BeelineWithEllipseArc(const DPOINT2& p, double angle, const EllipseArc& arc, DPOINT2* first, DPOINT2* second)
