@@ -121,8 +121,12 @@ int Intersect_BeelineWithArc(const DPOINT2& point, double angle, const DPOINT2& 
 int Intersect_LineWithArc(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre, double radius,
                           double start, double sweep, DPOINT2* first, DPOINT2* second)
 {
+    if (detail::IsClearOfCircle(firstEnd, secondEnd, centre, radius))
+    {
+        return 0;
+    }
     const detail::BoundedLine stretch(firstEnd, secondEnd);
-    if (stretch.IsClearOfCircle(centre, radius))
+    if (!stretch.HasLength())
     {
         return 0;
     }

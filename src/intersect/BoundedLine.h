@@ -32,6 +32,17 @@ inline bool IsClearOfCircle(const DPOINT2& start, const DPOINT2& end, double rad
     return isBeside || isBeyondStart || isBeyondEnd;
 }
 
+/// Tells whether a stretch stays clear of a circle by far more than tolerance and rounding. Nothing is clear of NaN, and of
+/// lengths whose squares leave the range of numbers.
+inline bool IsClearOfCircle(const DPOINT2& start, const DPOINT2& end, const DPOINT2& centre, double radius)
+{
+    const DPOINT2 fromStart = Difference(start, centre);
+    const DPOINT2 fromEnd = Difference(end, centre);
+    const double reach = Reach(centre) + Reach(fromStart) + Reach(fromEnd) + radius;
+    return Reach(Difference(end, start)) > 1e-50 && reach < 1e50 &&
+           IsClearOfCircle(fromStart, fromEnd, radius, 1e-8 + 1e-12 * reach);
+}
+
 /// A stretch of a straight line against curves: the angle of the beeline that carries it, and the test whether the
 /// beeline's points lie on it. One root serves both.
 class BoundedLine
@@ -41,6 +52,12 @@ public:
         : m_hasDirection(MakeLineThrough(start, end, m_line)),
           m_end(end)
     {
+    }
+
+    /// A stretch of no length holds no point.
+    bool HasLength() const
+    {
+        return m_hasDirection;
     }
 
     /// As D2GetNormalAngle of the way from start to end.
@@ -53,17 +70,6 @@ public:
     bool Holds(const DPOINT2& point) const
     {
         return m_hasDirection && IsOnStretch(point, m_line, m_end, DoubleTolerance);
-    }
-
-    /// Tells whether the stretch stays clear of a circle by far more than tolerance and rounding. Nothing is clear of NaN,
-    /// and of lengths whose squares leave the range of numbers.
-    bool IsClearOfCircle(const DPOINT2& centre, double radius) const
-    {
-        const DPOINT2 start = Difference(m_line.location, centre);
-        const DPOINT2 end = Difference(m_end, centre);
-        const double reach = Reach(centre) + Reach(start) + Reach(end) + radius;
-        return Reach(Difference(end, start)) > 1e-50 && reach < 1e50 &&
-               detail::IsClearOfCircle(start, end, radius, 1e-8 + 1e-12 * reach);
     }
 
 private:

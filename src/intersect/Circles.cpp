@@ -109,8 +109,12 @@ int Intersect_BeelineWithCircle(const DPOINT2& point, double angle, const DPOINT
 int Intersect_LineWithCircle(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre, double radius,
                              DPOINT2* first, DPOINT2* second)
 {
+    if (detail::IsClearOfCircle(firstEnd, secondEnd, centre, radius))
+    {
+        return 0;
+    }
     const detail::BoundedLine stretch(firstEnd, secondEnd);
-    if (stretch.IsClearOfCircle(centre, radius))
+    if (!stretch.HasLength())
     {
         return 0;
     }

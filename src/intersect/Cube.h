@@ -36,7 +36,7 @@ inline Halves Halved(double value)
 /// std::pow(x, 3.0), bit for bit, mostly without the call.
 ///
 /// The cube is computed to twice the digits of a double (Dekker). The power function of the C runtime is not rounded
-/// correctly: the source of glibc's bounds its error by 0.54 units in the last place. So where the cube lies within 0.44
+/// correctly: the source of glibc's bounds its error by 0.54 units in the last place. So where the cube lies within 0.45
 /// units of a double, any other double is too far away to be the power, and that double is. Powers of two, below which
 /// the units are smaller, infinities, NaN and whatever is too small for the error terms are left to the call.
 inline double Cube(double x)
@@ -53,7 +53,7 @@ inline double Cube(double x)
     const double binade = BinadeOf(nearest);
     constexpr double unitOfOne = 0x1p-52;
     const bool isSure =
-        std::abs(rest) < 0.44 * unitOfOne * binade && std::abs(nearest) != binade && 1e-100 < binade && binade < 1e100;
+        std::abs(rest) < 0.45 * unitOfOne * binade && std::abs(nearest) != binade && 1e-100 < binade && binade < 1e100;
     return isSure ? nearest : std::pow(x, 3.0);
 }
 

@@ -73,6 +73,10 @@ int MeetStretchWithEllipse(const DPOINT2& start, const DPOINT2& end, const Ellip
         return 0;
     }
     const detail::BoundedLine stretch(start, end);
+    if (!stretch.HasLength())
+    {
+        return 0;
+    }
     const TwoPoints found = CutEllipse(start, stretch.Angle(), frame, ellipse);
     return detail::KeepAndWrite(
         found, first, second, [&](const DPOINT2& candidate) { return stretch.Holds(candidate) && isKept(candidate); });

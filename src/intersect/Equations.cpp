@@ -54,23 +54,48 @@ public:
         return m_twiceB;
     }
 
-    /// Midpoint Newton iteration from `x` until the value is zero, at most 51 steps.
-    double Polish(double x) const
+    /// Midpoint Newton iterations, each from its own place until the value is zero, at most 51 steps. They take their steps
+    /// in turn, since the processor works on those of one while it waits for another.
+    template <std::size_t Count>
+    std::array<double, Count> Polish(std::array<double, Count> places) const
     {
         constexpr int mostSteps = 51;
-        for (int step = 0;; ++step)
+        std::array<bool, Count> isDone{};
+        for (int step = 0; step < mostSteps; ++step)
         {
-            const double value = Value(x);
-            if (detail::IsZero(value) || step >= mostSteps)
+            bool goesOn = false;
+            for (std::size_t i = 0; i < Count; ++i)
             {
-                return x;
+                isDone[i] = isDone[i] || !TakeStep(places[i]);
+                goesOn = goesOn || !isDone[i];
             }
-            const double halfWay = x - value / (2.0 * Derivative(x));
-            x = x - value / Derivative(halfWay);
+            if (!goesOn)
+            {
+                break;
+            }
         }
+        return places;
+    }
+
+    double Polish(double x) const
+    {
+        return Polish(std::array{x})[0];
     }
 
 private:
+    /// @return false where the value is zero already
+    bool TakeStep(double& x) const
+    {
+        const double value = Value(x);
+        if (detail::IsZero(value))
+        {
+            return false;
+        }
+        const double halfWay = x - value / (2.0 * Derivative(x));
+        x = x - value / Derivative(halfWay);
+        return true;
+    }
+
     double m_b;
     double m_c;
     double m_d;
@@ -122,7 +147,7 @@ CubicRoots RootsAroundStationaryPoints(const MonicCubic& cubic, double discrimin
     if (valueAtMaximum > 0.0 && valueAtMinimum < 0.0)
     {
         const double between = (minimum + maximum) * 0.5;
-        return {3, {cubic.Polish(leftOfBoth), cubic.Polish(between), cubic.Polish(rightOfBoth)}};
+        return {3, cubic.Polish(std::array{leftOfBoth, between, rightOfBoth})};
     }
     return {1, {cubic.Polish(valueAtMaximum < DoubleTolerance ? rightOfBoth : leftOfBoth)}};
 }
