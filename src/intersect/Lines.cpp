@@ -106,10 +106,12 @@ Verdict LookAtCrossing(const Stretch& a, const Stretch& b)
     {
         return Verdict::Outside;
     }
-    const bool isInside = std::max(placeOnA + margin * lengthOfB, placeOnB + margin * lengthOfA) < size;
-    // The error of the point grows with the coordinates and as the lines become parallel.
-    const double coordinates = Reach(a.first) + Reach(b.first);
-    const bool isPointSure = coordinates * lengthOfA * lengthOfB < 1e4 * size;
+    // Inside counts up to a fifth of the tolerance beyond the ends, where the error of the point is far below: that grows
+    // with the coordinates and as the lines become parallel.
+    const double beyondEnds = std::max((placeOnA - size) * lengthOfA, (placeOnB - size) * lengthOfB);
+    const bool isInside = beyondEnds < 0.4 * DoubleTolerance * size;
+    const double reach = Reach(a.first) + Reach(b.first) + lengthOfA + lengthOfB;
+    const bool isPointSure = reach * lengthOfA * lengthOfB < 1e4 * size;
     return isInside && isPointSure ? Verdict::Inside : Verdict::Unsure;
 }
 
