@@ -28,16 +28,6 @@ using detail::JointList;
 using detail::NoPosition;
 using detail::SourceSide;
 
-namespace
-{
-
-bool StartsInside(double lowEnd, int segmentCount)
-{
-    return segmentCount == 0 || (lowEnd >= 0 && lowEnd < segmentCount);
-}
-
-} // namespace
-
 CPolyPosMap::CPolyPosMap() : m_srcSegmentCount(0), m_dstSegmentCount(0)
 {
 }
@@ -157,17 +147,7 @@ bool CPolyPosMap::IsInvalid() const
 
 bool CPolyPosMap::IsNormalize() const
 {
-    if (IsInvalid())
-    {
-        return false;
-    }
-    if (IsEmpty())
-    {
-        return true;
-    }
-    const detail::Span source = detail::SpanOf(m_posPairs, SourceSide);
-    const detail::Span destination = detail::SpanOf(m_posPairs, DestinationSide);
-    return StartsInside(source.start, m_srcSegmentCount) && StartsInside(destination.start, m_dstSegmentCount);
+    return !IsInvalid() && detail::StartsInFirstLap(m_posPairs, m_srcSegmentCount, m_dstSegmentCount);
 }
 
 bool CPolyPosMap::IsIncrease(const int& side) const

@@ -84,6 +84,11 @@ bool IsInOrder(const JointList& joints, int side, Order isInOrder)
     return std::adjacent_find(joints.begin(), joints.end(), stepsBack) == joints.end();
 }
 
+bool StartsInFirstLap(double lowEnd, int segmentCount)
+{
+    return segmentCount == 0 || (lowEnd >= 0 && lowEnd < segmentCount);
+}
+
 ColumnOrder OrderGoing(bool up)
 {
     return up ? ColumnOrder::Rising : ColumnOrder::Falling;
@@ -120,6 +125,12 @@ ListShape::ListShape(const JointList& joints, int srcSegmentCount, int dstSegmen
                       ExceedsLap(joints, SourceSide, srcSegmentCount) ||
                       ExceedsLap(joints, DestinationSide, dstSegmentCount);
     }
+}
+
+bool StartsInFirstLap(const JointList& joints, int srcSegmentCount, int dstSegmentCount)
+{
+    return joints.empty() || (StartsInFirstLap(SpanOf(joints, SourceSide).start, srcSegmentCount) &&
+                              StartsInFirstLap(SpanOf(joints, DestinationSide).start, dstSegmentCount));
 }
 
 bool KeepsDirection(const JointList& joints, const ListShape& shape)

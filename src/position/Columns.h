@@ -41,6 +41,10 @@ inline Span SpanOf(const JointList& joints, int side)
     return front <= back ? Span{front, back} : Span{back, front};
 }
 
+/// Tells whether either column, by its lower end, starts in the first lap; an empty list does, and a count of 0 has no
+/// laps.
+bool StartsInFirstLap(const JointList& joints, int srcSegmentCount, int dstSegmentCount);
+
 /// Tells whether both columns run the same way. Those of an ill-formed list do, by convention.
 bool KeepsDirection(const JointList& joints, const ListShape& shape);
 

@@ -35,13 +35,13 @@ namespace
 /// @return the map itself or `moved`; null if the map is ill-formed or never gets normal
 const CPolyPosMap* InNormalForm(const CPolyPosMap& map, CPolyPosMap& moved)
 {
-    if (map.IsNormalize())
-    {
-        return &map;
-    }
     if (map.IsInvalid())
     {
         return nullptr;
+    }
+    if (detail::StartsInFirstLap(map.PosPairs(), map.SrcSegmentCount(), map.DstSegmentCount()))
+    {
+        return &map;
     }
     moved = map;
     constexpr int mostPasses = 8;

@@ -1,5 +1,6 @@
 #include "math/CPolyPosMap.h"
 
+#include "position/Columns.h"
 #include "position/PairList.h"
 
 namespace math
@@ -47,12 +48,22 @@ CPolyPosMap CPolyPosMap::operator+(const CPolyPosMap& other) const
     {
         return *this;
     }
-    JointList earlier = m_posPairs;
+    JointList earlier;
+    earlier.reserve(m_posPairs.size() + other.m_posPairs.size());
+    earlier = m_posPairs;
     JointList later = other.m_posPairs;
-    RunOnPastSeam(earlier, later, DestinationSide, IsIncrease(DestinationSide), m_dstSegmentCount);
-    RunOnPastSeam(earlier, later, SourceSide, IsIncrease(SourceSide), m_srcSegmentCount);
+    for (const int side : {DestinationSide, SourceSide})
+    {
+        const int segmentCount = side == SourceSide ? m_srcSegmentCount : m_dstSegmentCount;
+        RunOnPastSeam(earlier, later, side, detail::RunsUpward(m_posPairs, side), segmentCount);
+    }
     earlier.insert(earlier.end(), later.begin(), later.end());
-    return CPolyPosMap(earlier, m_srcSegmentCount, m_dstSegmentCount);
+
+    CPolyPosMap joined;
+    joined.m_posPairs.swap(earlier);
+    joined.m_srcSegmentCount = m_srcSegmentCount;
+    joined.m_dstSegmentCount = m_dstSegmentCount;
+    return joined;
 }
 
 CPolyPosMap& CPolyPosMap::operator+=(const CPolyPosMap& other)

@@ -147,7 +147,7 @@ void Fill(CPolyPosMap& map, int side)
     }
     const bool wasUp = detail::RunsUpward(map.PosPairs(), SourceSide);
     bool isUp = wasUp;
-    if (!map.IsNormalize())
+    if (!detail::StartsInFirstLap(map.PosPairs(), map.SrcSegmentCount(), map.DstSegmentCount()))
     {
         map.Normalize();
         isUp = map.IsIncrease(SourceSide);
@@ -193,7 +193,7 @@ void CPolyPosMap::Unique(const bool& mergeStraight)
 
 void CPolyPosMap::Normalize()
 {
-    if (IsNormalize() || IsInvalid())
+    if (IsInvalid() || detail::StartsInFirstLap(m_posPairs, m_srcSegmentCount, m_dstSegmentCount))
     {
         return;
     }

@@ -30,6 +30,36 @@ int IndexFromBack(const JointList& joints, JointList::const_reverse_iterator fou
     return found == joints.rend() ? -1 : static_cast<int>(std::distance(found, joints.rend())) - 1;
 }
 
+/// Index of the last joint before `position` in walking order, by however little, or -1.
+int LastIndexBefore(const JointList& joints, double position, int side)
+{
+    if (joints.empty())
+    {
+        return -1;
+    }
+    const bool up = RunsUp(joints, side);
+    const auto isBefore = [&](const Joint& joint) {
+        const double value = ColumnValue(joint, side);
+        return up ? value < position : value > position;
+    };
+    return IndexFromBack(joints, std::find_if(joints.rbegin(), joints.rend(), isBefore));
+}
+
+/// Index of the first joint after `position` in walking order, or -1.
+int FirstIndexAfter(const JointList& joints, double position, int side)
+{
+    if (joints.empty())
+    {
+        return -1;
+    }
+    const bool up = RunsUp(joints, side);
+    const auto isAfter = [&](const Joint& joint) {
+        const double value = ColumnValue(joint, side);
+        return up ? value > position : value < position;
+    };
+    return IndexFromFront(joints, std::find_if(joints.begin(), joints.end(), isAfter));
+}
+
 bool AreNear(const Joint& a, const Joint& b)
 {
     return AreEqual(a.first, b.first) && AreEqual(a.second, b.second);
@@ -101,42 +131,16 @@ void ShiftColumn(JointList& joints, int side, double delta)
 
 int FindLeftIndex(const JointList& joints, double position, int side)
 {
-    if (joints.empty())
-    {
-        return -1;
-    }
     const auto isNear = [&](const Joint& joint) { return AreEqual(ColumnValue(joint, side), position); };
     const auto lastNear = std::find_if(joints.rbegin(), joints.rend(), isNear);
-    if (lastNear != joints.rend())
-    {
-        return IndexFromBack(joints, lastNear);
-    }
-    const bool up = RunsUp(joints, side);
-    const auto isBefore = [&](const Joint& joint) {
-        const double value = ColumnValue(joint, side);
-        return up ? value < position : value > position;
-    };
-    return IndexFromBack(joints, std::find_if(joints.rbegin(), joints.rend(), isBefore));
+    return lastNear != joints.rend() ? IndexFromBack(joints, lastNear) : LastIndexBefore(joints, position, side);
 }
 
 int FindRightIndex(const JointList& joints, double position, int side)
 {
-    if (joints.empty())
-    {
-        return -1;
-    }
     const auto isNear = [&](const Joint& joint) { return AreEqual(ColumnValue(joint, side), position); };
     const auto firstNear = std::find_if(joints.begin(), joints.end(), isNear);
-    if (firstNear != joints.end())
-    {
-        return IndexFromFront(joints, firstNear);
-    }
-    const bool up = RunsUp(joints, side);
-    const auto isAfter = [&](const Joint& joint) {
-        const double value = ColumnValue(joint, side);
-        return up ? value > position : value < position;
-    };
-    return IndexFromFront(joints, std::find_if(joints.begin(), joints.end(), isAfter));
+    return firstNear != joints.end() ? IndexFromFront(joints, firstNear) : FirstIndexAfter(joints, position, side);
 }
 
 Joint InsertJoint(JointList& joints, double position, int side)
@@ -152,8 +156,8 @@ Joint InsertJoint(JointList& joints, double position, int side)
         return *known;
     }
 
-    const int left = FindLeftIndex(joints, position, side);
-    const int right = FindRightIndex(joints, position, side);
+    const int left = LastIndexBefore(joints, position, side);
+    const int right = FirstIndexAfter(joints, position, side);
     const int otherSide = OtherSide(side);
     Joint added;
     ColumnValue(added, side) = position;
