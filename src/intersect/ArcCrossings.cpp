@@ -17,36 +17,40 @@ CrossingSearch::CrossingSearch(const EllipseQuarterArc& arcA, const EllipseQuart
     arcB.MeetVertical(lowX, m_points.lowOnB);
     arcA.MeetVertical(highX, m_points.highOnA);
     m_differenceAtLow = m_points.lowOnA.y - m_points.lowOnB.y;
-    // Products with a smaller difference may be rounded to zero: that search is left to the points.
-    const bool hasSign = !IsZero(m_differenceAtLow);
-    m_range.ends = hasSign ? std::array{m_points.lowOnA.x, m_points.highOnA.x} : std::array{0.0, 0.0};
+    m_range.ends = {m_points.lowOnA.x, m_points.highOnA.x};
 }
 
 /// The same decision by the points on both arcs.
-MovingEnd CrossingSearch::ChooseEndByPoints(double middle) const
+MovingEnd CrossingSearch::ChooseEndByPoints(double middle)
 {
-    const double difference = m_arcA->MeetingAt(middle).y - m_arcB->MeetingAt(middle).y;
+    MeetBothAt(middle);
+    const double difference = m_points.onA.y - m_points.onB.y;
     return IsZero(difference) ? MovingEnd::Neither : ChooseEnd(difference, m_differenceAtLow);
+}
+
+void CrossingSearch::MeetBothAt(double x)
+{
+    m_points.onA = m_arcA->MeetingAt(x);
+    m_points.onB = m_arcB->MeetingAt(x);
 }
 
 DPOINT2 CrossingSearch::Finish()
 {
-    if (m_range.HasBegun())
+    if (!m_range.isFound && m_range.HasBegun())
     {
-        TakeOver();
+        MeetBothAt(m_range.xOfLast);
     }
-    if (!m_range.isFound && m_points.IsWide())
+    if (!m_range.isFound && m_range.IsWide())
     {
+        TakeOverEnds();
         HalveByVerticals();
     }
     return {(m_points.onA.x + m_points.onB.x) * 0.5, (m_points.onA.y + m_points.onB.y) * 0.5};
 }
 
-/// The points as they are after the steps in which both arcs were surely met.
-void CrossingSearch::TakeOver()
+/// Finds the points in the ends of the range that has been reached.
+void CrossingSearch::TakeOverEnds()
 {
-    m_points.onA = m_arcA->MeetingAt(m_range.xOfLast);
-    m_points.onB = m_arcB->MeetingAt(m_range.xOfLast);
     if (m_range.HasMoved(MovingEnd::Low))
     {
         m_points.lowOnA = m_arcA->MeetingAt(m_range.XOf(MovingEnd::Low));

@@ -3,8 +3,10 @@
 #include "intersect/QuarterArcs.h"
 #include "intersect/SureHalving.h"
 #include "math/Primitives.h"
+#include "primitives/Tolerance.h"
 
 #include <array>
+#include <cmath>
 #include <cstddef>
 
 namespace math::detail
@@ -25,7 +27,8 @@ public:
     /// @return whether such a step may follow
     bool HalveOnce()
     {
-        return m_range.HalveOnce(*m_arcA, *m_arcB, [&](double middle) {
+        // Products with a difference that counts as none may be rounded to zero.
+        return !IsZero(m_differenceAtLow) && m_range.HalveOnce(*m_arcA, *m_arcB, [&](double middle) {
             const double estimate = m_arcA->HeightAt(middle) - m_arcB->HeightAt(middle);
             return std::abs(estimate) > m_margin ? ChooseEnd(estimate, m_differenceAtLow) : ChooseEndByPoints(middle);
         });
@@ -49,8 +52,9 @@ private:
         }
     };
 
-    MovingEnd ChooseEndByPoints(double middle) const;
-    void TakeOver();
+    MovingEnd ChooseEndByPoints(double middle);
+    void MeetBothAt(double x);
+    void TakeOverEnds();
     void HalveByVerticals();
 
     const EllipseQuarterArc* m_arcA = nullptr;

@@ -202,12 +202,33 @@ void MeetAroundTurn(const ArcPair& pair, double heightDifferenceAtLeft, ArcMeeti
     }
 }
 
-/// The end of the shared range of two arcs: the x of the point on A, and the heights of both there.
+/// An end of the shared range of two arcs as far as it can be told by estimates: NaN where it is in doubt which of both
+/// arcs ends there.
 struct SharedEnd
 {
     double x = InvalidDouble;
     double heightOfA = InvalidDouble;
     double heightOfB = InvalidDouble;
+    bool isOfA = false;
+
+    SharedEnd(const EllipseQuarterArc& arcA, const EllipseQuarterArc& arcB, const DPOINT2& endOfA,
+              const DPOINT2& endOfB)
+    {
+        const Verdict isBMet = arcB.IsMetAt(endOfA.x);
+        if (isBMet == Verdict::Inside)
+        {
+            x = endOfA.x;
+            heightOfA = endOfA.y;
+            heightOfB = arcB.HeightAt(x);
+            isOfA = true;
+        }
+        else if (isBMet == Verdict::Outside && arcA.IsMetAt(endOfB.x) == Verdict::Inside)
+        {
+            x = endOfB.x;
+            heightOfA = arcA.HeightAt(x);
+            heightOfB = endOfB.y;
+        }
+    }
 
     bool IsSure() const
     {
@@ -218,31 +239,21 @@ struct SharedEnd
     {
         return heightOfA - heightOfB;
     }
-};
 
-/// Shares an end by estimates; NaN where it is in doubt which of both arcs ends.
-SharedEnd EstimateEnd(const EllipseQuarterArc& arcA, const EllipseQuarterArc& arcB, const DPOINT2& endOfA,
-                      const DPOINT2& endOfB)
-{
-    const Verdict isBMet = arcB.IsMetAt(endOfA.x);
-    if (isBMet == Verdict::Inside)
+    /// The x of the point on A.
+    double XOn(const EllipseQuarterArc& arcA) const
     {
-        return {endOfA.x, endOfA.y, arcB.HeightAt(endOfA.x)};
+        return isOfA ? x : arcA.MeetingAt(x).x;
     }
-    if (isBMet == Verdict::Outside && arcA.IsMetAt(endOfB.x) == Verdict::Inside)
-    {
-        return {arcA.MeetingAt(endOfB.x).x, arcA.HeightAt(endOfB.x), endOfB.y};
-    }
-    return {};
-}
+};
 
 /// Meets two arcs whose ends alone tell beyond doubt how: they stay apart, one above the other, or cross.
 ///
 /// @return whether they do
 bool MeetByClearEnds(const EllipseQuarterArc& arcA, const EllipseQuarterArc& arcB, ArcMeetings& meetings)
 {
-    const SharedEnd left = EstimateEnd(arcA, arcB, arcA.Span().left, arcB.Span().left);
-    const SharedEnd right = EstimateEnd(arcA, arcB, arcA.Span().right, arcB.Span().right);
+    const SharedEnd left(arcA, arcB, arcA.Span().left, arcB.Span().left);
+    const SharedEnd right(arcA, arcB, arcA.Span().right, arcB.Span().right);
     if (!left.IsSure() || !right.IsSure())
     {
         return false;
@@ -253,12 +264,12 @@ bool MeetByClearEnds(const EllipseQuarterArc& arcA, const EllipseQuarterArc& arc
     {
         return true;
     }
-    const double atLeft = left.Difference();
-    const double atRight = right.Difference();
-    const bool cross = std::min(atLeft, atRight) < -margin && std::max(atLeft, atRight) > margin;
+    const double lesser = std::min(left.Difference(), right.Difference());
+    const double greater = std::max(left.Difference(), right.Difference());
+    const bool cross = lesser < -margin && greater > margin;
     if (cross)
     {
-        meetings.AddCrossing(arcA, arcB, left.x, right.x);
+        meetings.AddCrossing(arcA, arcB, left.XOn(arcA), right.XOn(arcA));
     }
     return cross;
 }
