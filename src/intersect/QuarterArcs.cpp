@@ -18,14 +18,31 @@ namespace math::detail
 namespace
 {
 
-/// Sorts by insertion, which is well defined with the NaN of a flat ellipse too.
-void SortAscending(std::array<double, 4>& values)
+/// An extreme point as it is seen from the centre.
+struct Sighting
 {
-    for (std::size_t i = 1; i < values.size(); ++i)
+    double angle; ///< from the own x axis
+    DPOINT2 ray;  ///< unit vector
+};
+
+Sighting Sight(const DPOINT2& point, const DPOINT2& centre, double rotation)
+{
+    const double dx = point.x - centre.x;
+    const double dy = point.y - centre.y;
+    const double distance = std::sqrt(dx * dx + dy * dy);
+    // Squares of less vanish.
+    const DPOINT2 ray = distance > 1e-100 ? DPOINT2(dx / distance, dy / distance) : NoPoint();
+    return {Fold(D2GetNormalAngle(dx, dy) - rotation, TwoPi), ray};
+}
+
+/// Sorts by insertion, which is well defined with the NaN of a flat ellipse too.
+void SortByAngle(std::array<Sighting, 4>& sightings)
+{
+    for (std::size_t i = 1; i < sightings.size(); ++i)
     {
-        for (std::size_t j = i; j > 0 && values[j] < values[j - 1]; --j)
+        for (std::size_t j = i; j > 0 && sightings[j].angle < sightings[j - 1].angle; --j)
         {
-            std::swap(values[j], values[j - 1]);
+            std::swap(sightings[j], sightings[j - 1]);
         }
     }
 }
@@ -51,20 +68,17 @@ QuarteredEllipse::QuarteredEllipse(const DPOINT2& centre, double a, double b, do
       m_sweeps{}
 {
     const auto [ownLower, ownUpper] = OwnTangentPoints(a, b, Fold(0.0 - m_foldedRotation, Pi));
-    const std::array extremes = {m_foldedFrame.OutOf(ownLower), m_verticals.FirstTangency(),
-                                 m_foldedFrame.OutOf(ownUpper), m_verticals.SecondTangency()};
-    for (std::size_t i = 0; i < m_angles.size(); ++i)
+    std::array extremes = {
+        Sight(m_foldedFrame.OutOf(ownLower), centre, rotation), Sight(m_verticals.FirstTangency(), centre, rotation),
+        Sight(m_foldedFrame.OutOf(ownUpper), centre, rotation), Sight(m_verticals.SecondTangency(), centre, rotation)};
+    SortByAngle(extremes);
+    for (std::size_t i = 0; i < extremes.size(); ++i)
     {
-        const double direction = D2GetNormalAngle(extremes[i].x - centre.x, extremes[i].y - centre.y);
-        m_angles[i] = Fold(direction - rotation, TwoPi);
-    }
-    SortAscending(m_angles);
-    for (std::size_t i = 0; i < m_sweeps.size(); ++i)
-    {
-        const double next = m_angles[(i + 1) % m_angles.size()];
+        const double next = extremes[(i + 1) % extremes.size()].angle;
+        m_angles[i] = extremes[i].angle;
         m_sweeps[i] = Fold(next - m_angles[i], TwoPi);
         m_corners[i] = PointAtPolarAngle(m_frame, a, b, m_angles[i]);
-        m_rays[i] = {std::cos(rotation + m_angles[i]), std::sin(rotation + m_angles[i])};
+        m_rays[i] = extremes[i].ray;
     }
 }
 
