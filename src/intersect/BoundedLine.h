@@ -48,16 +48,14 @@ inline bool IsClearOfCircle(const DPOINT2& start, const DPOINT2& end, const DPOI
 class BoundedLine
 {
 public:
-    BoundedLine(const DPOINT2& start, const DPOINT2& end)
-        : m_hasDirection(MakeLineThrough(start, end, m_line)),
-          m_end(end)
+    BoundedLine(const DPOINT2& start, const DPOINT2& end) : m_hasLength(MakeLineThrough(start, end, m_line)), m_end(end)
     {
     }
 
-    /// A stretch of no length holds no point.
+    /// What has no length has neither angle nor points.
     bool HasLength() const
     {
-        return m_hasDirection;
+        return m_hasLength;
     }
 
     /// As D2GetNormalAngle of the way from start to end.
@@ -66,15 +64,15 @@ public:
         return NormalAngle(Difference(m_end, m_line.location), m_line.direction);
     }
 
-    /// As IsPointInLine with DoubleTolerance.
+    /// As IsPointInLine with DoubleTolerance, for a stretch with a length.
     bool Holds(const DPOINT2& point) const
     {
-        return m_hasDirection && IsOnStretch(point, m_line, m_end, DoubleTolerance);
+        return IsOnStretch(point, m_line, m_end, DoubleTolerance);
     }
 
 private:
     StraightLine m_line{};
-    bool m_hasDirection;
+    bool m_hasLength;
     DPOINT2 m_end;
 };
 

@@ -137,10 +137,10 @@ int Intersect_LineWithEllipse(const DPOINT2& firstEnd, const DPOINT2& secondEnd,
 int Intersect_LineWithEllipseArc(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre, double a,
                                  double b, double rotation, double start, double sweep, DPOINT2* first, DPOINT2* second)
 {
-    return MeetStretchWithEllipse(
-        firstEnd, secondEnd, {centre, a, b, rotation}, first, second, [&](const DPOINT2& candidate) {
-            return detail::IsPointInEllipseSector(candidate, centre, rotation, start, std::abs(sweep), sweep > 0);
-        });
+    const auto isOnArc = [&](const DPOINT2& candidate) {
+        return detail::IsPointInEllipseSector(candidate, centre, rotation, start, std::abs(sweep), sweep > 0);
+    };
+    return MeetStretchWithEllipse(firstEnd, secondEnd, {centre, a, b, rotation}, first, second, isOnArc);
 }
 
 int Intersect_LineWithEllipseArc(const DPOINT2& firstEnd, const DPOINT2& secondEnd, const DPOINT2& centre, double a,
