@@ -3,6 +3,7 @@
 #include "intersect/BoundedLine.h"
 #include "intersect/PointOutputs.h"
 #include "primitives/Constants.h"
+#include "primitives/Distance.h"
 #include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
 
@@ -190,7 +191,7 @@ int Intersect_ArcWithArc(const DPOINT2& firstCentre, double firstRadius, double 
                          DPOINT2* first, DPOINT2* second)
 {
     // The centres are compared exactly: the slightest shift makes two circles of them.
-    const bool differ = D2GetDistance(firstCentre, secondCentre) > 0.0 || !AreEqual(firstRadius, secondRadius);
+    const bool differ = detail::Distance(firstCentre, secondCentre) > 0.0 || !AreEqual(firstRadius, secondRadius);
     if (differ)
     {
         TwoPoints onBoth;

@@ -3,6 +3,7 @@
 #include "intersect/BoundedLine.h"
 #include "intersect/PointOutputs.h"
 #include "primitives/Beeline.h"
+#include "primitives/Distance.h"
 #include "primitives/Meetings.h"
 #include "primitives/Straight.h"
 #include "primitives/Tolerance.h"
@@ -163,7 +164,7 @@ int Intersect_CircleWithCircle(const DPOINT2& firstCentre, double firstRadius, c
 {
     if (wantPoints == 0)
     {
-        return CountCirclesQuickly(D2GetDistance(firstCentre, secondCentre), firstRadius, secondRadius);
+        return CountCirclesQuickly(detail::Distance(firstCentre, secondCentre), firstRadius, secondRadius);
     }
     return AppendAll(points, [&](DPOINT2* first, DPOINT2* second) {
         return Intersect_CircleWithCircle(firstCentre, firstRadius, secondCentre, secondRadius, first, second);

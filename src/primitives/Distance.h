@@ -14,7 +14,7 @@ inline double SquareOfDistance(const DPOINT2& a, const DPOINT2& b)
     return dx * dx + dy * dy;
 }
 
-/// As D2GetDistance, for loops that a call would slow down.
+/// As D2GetDistance, for places that a call would slow down.
 inline double Distance(const DPOINT2& a, const DPOINT2& b)
 {
     return std::sqrt(SquareOfDistance(a, b));

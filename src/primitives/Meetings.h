@@ -1,6 +1,7 @@
 #pragma once
 
 #include "math/Primitives.h"
+#include "primitives/Distance.h"
 #include "primitives/RoundingUnit.h"
 #include "primitives/Straight.h"
 #include "primitives/TwoNumbers.h"
@@ -205,7 +206,7 @@ inline void FindCrossing(const DPOINT2& centre1, double radius1, const DPOINT2& 
 inline CircleMeeting MeetCircles(const DPOINT2& centre1, double radius1, const DPOINT2& centre2, double radius2)
 {
     CircleMeeting meeting;
-    meeting.distance = D2GetDistance(centre1, centre2);
+    meeting.distance = Distance(centre1, centre2);
     meeting.placement = PlacementOf(meeting.distance, radius1, radius2);
     if (meeting.placement == CirclePlacement::TouchingFromOutside)
     {

@@ -1,5 +1,6 @@
 #include "math/Primitives.h"
 #include "primitives/Constants.h"
+#include "primitives/Distance.h"
 #include "primitives/EllipseClassification.h"
 #include "primitives/OwnFrame.h"
 #include "primitives/Sector.h"
@@ -83,7 +84,7 @@ bool IsPointInArc(const DPOINT2& point, const DPOINT2& centre, double radius, do
         return false;
     }
     // The caller's tolerance is an angle and has no say in the distance.
-    if (!detail::AreEqual(D2GetDistance(point, centre), radius))
+    if (!detail::AreEqual(detail::Distance(point, centre), radius))
     {
         return false;
     }
