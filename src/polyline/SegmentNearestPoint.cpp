@@ -3,6 +3,7 @@
 #include "polyline/ArcForm.h"
 #include "primitives/Constants.h"
 #include "primitives/Distance.h"
+#include "primitives/PlaneVectors.h"
 #include "primitives/Sector.h"
 #include "primitives/Tolerance.h"
 
@@ -14,8 +15,11 @@ namespace math
 {
 
 using detail::ArcForm;
+using detail::Cross;
+using detail::Difference;
 using detail::Distance;
 using detail::IsZero;
+using detail::Reach;
 using detail::SquareOfDistance;
 using detail::TwoPi;
 using detail::Verdict;
@@ -142,21 +146,6 @@ bool IsAtCentre(const DPOINT2& p, const ArcForm& arc)
 bool IsInSectorOf(const ArcForm& arc, const DPOINT2& p, double direction)
 {
     return !IsAtCentre(p, arc) && IsAngleInSector(direction, arc.StartRadian(), std::abs(arc.sweep), arc.sweep > 0.0);
-}
-
-DPOINT2 Difference(const DPOINT2& a, const DPOINT2& b)
-{
-    return {a.x - b.x, a.y - b.y};
-}
-
-double Cross(const DPOINT2& a, const DPOINT2& b)
-{
-    return a.x * b.y - a.y * b.x;
-}
-
-double Reach(const DPOINT2& vector)
-{
-    return std::abs(vector.x) + std::abs(vector.y);
 }
 
 /// A first look, without angles, at whether a point lies in the sector of an arc. It is sure only where the point is so
