@@ -86,6 +86,8 @@ TEST(IntersectCircleWithEllipse, AFlatEllipseIsAStretchBetweenItsVertices)
     EXPECT_TRUE(GivesAndLeavesOthers(Meeting(unit, Ellipse{{0, 0}, 0.9, 0, 0}), 0, {})) << "inside";
     EXPECT_TRUE(GivesAndLeavesOthers(Meeting(unit, Ellipse{{0, 2}, 3, 0, 0}), 0, {})) << "beside";
     EXPECT_TRUE(GivesAndLeavesOthers(Meeting(unit, Ellipse{{1, 0}, 0.5, 0, 0}), 1, {{1, 0}}, 1e-15)) << "half in";
+    // From (1, 1) to (5, 1), the circle about the left end.
+    EXPECT_TRUE(GivesAndLeavesOthers(Meeting(Circle{{1, 1}, 1}, Ellipse{{3, 1}, 2, 0, 0}), 1, {{2, 1}}, 1e-15));
     // Along (0.6, 0.8) from (1, 1): both ends, (1.6, 1.8) and (0.4, 0.2), and the circle through one point between
     // them.
     const double tilt = std::atan2(0.8, 0.6);
