@@ -3,7 +3,7 @@
 #
 # Usage: scripts/compare_builds.sh
 #
-# Builds the library and tests/hashes eight ways in build/hashes, runs each, and prints how many functions agree with
+# Builds the library and tests/hashes nine ways in build/hashes, runs each, and prints how many functions agree with
 # the first build. Fails with the names of those that do not. docs/bit_for_bit.md tells what is compared. Debian packages
 # that are missing are installed first; ccache is used where it is installed.
 set -euo pipefail
@@ -19,6 +19,7 @@ builds=(
     "gcc-debug-O0|g++|Debug|-O0|"
     "gcc-debug-O3|g++|Debug|-O3|"
     "gcc-debug-O1-address|g++|Debug|-O1|address"
+    "gcc-debug-O1-thread|g++|Debug|-O1|thread"
     "clang-release-O3|clang++|Release|-O3 -DNDEBUG|"
     "clang-debug-O0|clang++|Debug|-O0|"
     "clang-debug-O1-undefined|clang++|Debug|-O1|undefined;float-cast-overflow;integer"
