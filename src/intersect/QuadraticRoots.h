@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <tuple>
 
 namespace math::detail
 {
@@ -42,9 +43,7 @@ inline QuadraticRoots RootsOfQuadratic(double a, double b, double c)
         return {};
     }
     a /= scale;
-    const TwoNumbers scaled = TwoNumbers{b, c} / scale;
-    b = scaled.first;
-    c = scaled.second;
+    std::tie(b, c) = (TwoNumbers(b, c) / scale).Values();
     if (IsZero(a))
     {
         return RootsOfLinear(b, c);
@@ -54,7 +53,7 @@ inline QuadraticRoots RootsOfQuadratic(double a, double b, double c)
     b *= sign;
     a *= sign;
 
-    const auto [depth, productOfRoots] = TwoNumbers{b * b, c} / TwoNumbers{4.0 * a, a};
+    const auto [depth, productOfRoots] = (TwoNumbers(b * b, c) / TwoNumbers(4.0 * a, a)).Values();
     // The value at the vertex decides; a vertex short of the axis by less than the tolerance touches it.
     const double vertexValue = c - depth;
     if (vertexValue > DoubleTolerance)
@@ -62,7 +61,7 @@ inline QuadraticRoots RootsOfQuadratic(double a, double b, double c)
         return {};
     }
     const double fallToVertex = std::min(vertexValue, 0.0) * -1.0;
-    const auto [middle, squareOfHalfDistance] = TwoNumbers{b * -1.0, fallToVertex} / TwoNumbers{2.0 * a, a};
+    const auto [middle, squareOfHalfDistance] = (TwoNumbers(b * -1.0, fallToVertex) / TwoNumbers(2.0 * a, a)).Values();
     const double halfDistance = std::sqrt(squareOfHalfDistance);
     if (IsZero(2.0 * halfDistance))
     {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "math/Primitives.h"
+#include "primitives/TwoNumbers.h"
 
 namespace math::detail
 {
@@ -47,6 +48,14 @@ struct CubicForm
     DPOINT2 PointAt(double t) const
     {
         return {x.ValueAt(t), y.ValueAt(t)};
+    }
+
+    /// PointAt, both coordinates at once.
+    TwoNumbers CoordinatesAt(double t) const
+    {
+        const TwoNumbers parameter(t, t);
+        const TwoNumbers slopes = TwoNumbers(x.a, y.a) * parameter + TwoNumbers(x.b * 3.0, y.b * 3.0);
+        return (slopes * parameter + TwoNumbers(x.c * 3.0, y.c * 3.0)) * parameter + TwoNumbers(x.d, y.d);
     }
 
     DPOINT2 DerivativeAt(double t) const

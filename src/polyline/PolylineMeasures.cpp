@@ -101,9 +101,18 @@ DRECT CPolyline::GetRECT() const
         return {};
     }
     detail::GrowingBox box(BoxUpTo(start, nodes.front()));
-    for (std::size_t i = 1; i < nodes.size(); ++i)
+    const NODE* const last = &nodes.back();
+    for (const NODE* node = &nodes.front(); node != last; ++node)
     {
-        box.Unite(BoxUpTo(nodes[i - 1].point, nodes[i]));
+        const NODE& next = node[1];
+        if (next.bulge != 0.0)
+        {
+            box.Unite(CSegment::GetBoundRectOfArc(node->point, next.point, next.bulge));
+        }
+        else
+        {
+            box.UniteEnds(node->point, next.point);
+        }
     }
     return box.Box();
 }

@@ -210,7 +210,7 @@ DRECT CSegment::GetBoundRectOfBezier(const DPOINT2& startPoint, const DPOINT2& f
     detail::GrowingBox box(BoxOfPoint(startPoint));
     for (std::size_t i = 1; i < sampleCount; ++i)
     {
-        box.Unite(BoxOfPoint(curve.PointAt(detail::SampleParameters[i])));
+        box.UnitePoint(curve.CoordinatesAt(detail::SampleParameters[i]));
     }
     return box.Box();
 }

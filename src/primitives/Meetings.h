@@ -76,8 +76,8 @@ inline LineMeeting MeetLines(const LineEquation& first, const LineEquation& seco
     {
         return {true, std::abs(other.c - ratio * pivot.c) <= KernelTolerance, {}};
     }
-    const auto [fromOther, fromPivot] = TwoNumbers{pivot.b * other.c, other.b * pivot.c} / pivot.a;
-    const auto [x, y] = TwoNumbers{fromOther - fromPivot, ratio * pivot.c - other.c} / denominator;
+    const auto [fromOther, fromPivot] = (TwoNumbers(pivot.b * other.c, other.b * pivot.c) / pivot.a).Values();
+    const auto [x, y] = (TwoNumbers(fromOther - fromPivot, ratio * pivot.c - other.c) / denominator).Values();
     return {false, false, isExchanged ? DPOINT2(y, x) : DPOINT2(x, y)};
 }
 
