@@ -183,6 +183,21 @@ TEST(CubicEquation, StartsAMonotoneSearchAQuarterOfTheSecondCoefficientFromZero)
     ExpectRoots(coefficients, {x}, 1e-14);
 }
 
+TEST(CubicEquation, WithAValueOfTheToleranceAtTheStartHasItsRootThere)
+{
+    // x³ + x + d starts at 0, where its value is d: the tolerance is neither above nor below itself.
+    ExpectRoots({1, 0, 1, 1e-9}, {0}, 0.0);
+    // One double more or less, and the search begins a unit away, to end at some place where the value is below 1e-9: at
+    // most that far from the root, which is -d.
+    for (const double d : {Previous(1e-9), Next(1e-9)})
+    {
+        const Roots roots = Solve(1, 0, 1, d);
+        EXPECT_EQ(roots.count, 1);
+        EXPECT_TRUE(Near(roots.values[0], -d, 1e-9));
+        EXPECT_NE(roots.values[0], 0.0);
+    }
+}
+
 TEST(CubicEquation, FindsTheRootsThatItWasMadeFrom)
 {
     Random random(23);
