@@ -336,6 +336,23 @@ TEST(EllipseScaledBothWays, LeavesTheEllipseAsItIsForFactorsOfOne)
     EXPECT_TRUE(IsEllipse(Scaled({3, 1, 2.5}, 1.0, 1.0), 3, 1, 2.5, 1e-15));
 }
 
+TEST(EllipseScaledBothWays, AlongYIsAlongXInAFrameTurnedByAQuarterTurnBitForBit)
+{
+    // Up to half a turn, taking off a quarter turn is exact: the rotation in the turned frame is one double and no other.
+    Random random(60);
+    for (int i = 0; i < 1000; ++i)
+    {
+        const Ellipse ellipse{random.Number(2.0, 4.0), random.Number(0.5, 1.5), random.Number(HalfPi, Pi)};
+        const double factor = RandomFactor(random);
+        SCOPED_TRACE(Text(ellipse) + " by " + Digits(factor));
+        const Ellipse inTurned = Scaled({ellipse.a, ellipse.b, ellipse.rotation - HalfPi}, factor);
+        const Ellipse scaled = Scaled(ellipse, 1.0, factor);
+        EXPECT_TRUE(SameBits(scaled.a, inTurned.a));
+        EXPECT_TRUE(SameBits(scaled.b, inTurned.b));
+        EXPECT_TRUE(SameBits(scaled.rotation, RegularizeIncludedRadian(inTurned.rotation + HalfPi)));
+    }
+}
+
 TEST(EllipseScaledBothWays, IsTheScaledConic)
 {
     Random random(57);
