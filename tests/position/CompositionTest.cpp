@@ -290,6 +290,18 @@ TEST(Composition, ComesToAnEndWithPositionsThatAreNoNumbers)
     }
 }
 
+TEST(Composition, EqualInfiniteImagesKeepTheOrderOfTheirPlaces)
+{
+    // Neither of two equal images is walked before the other. The map reads the same from both ends, so neither the whole
+    // source before it nor the source turned round changes it.
+    for (const double end : {Infinite, -Infinite})
+    {
+        const CPolyPosMap map = Map({{0, end}, {1, NaN}, {2, end}}, 2, 0);
+        EXPECT_EQ(Whole(2) * map, map);
+        EXPECT_EQ(Map({{0, 2}, {2, 0}}, 2, 2) * map, map);
+    }
+}
+
 TEST(Composition, ManyJointsKeepTheirOrder)
 {
     const int count = 64; // interpolation over a power of two is exact
