@@ -147,7 +147,9 @@ void CheckDistances(Decoder& decoder)
     FUZZ_REQUIRE(!(D2GetPointToLineDistance(point, a, b) < 0.0));
     FUZZ_REQUIRE(!(D2GetPointToBeelineDistance(point, a, angle) < 0.0));
     FUZZ_REQUIRE(!(MinDistanceToLine(point, a, b) < 0.0));
-    const double arcDistance = MinDistanceToArc(point, a, b, decoder.Point(), decoder.Size(), decoder.Angle());
+    const DPOINT2 centre = decoder.Point();
+    const double radius = decoder.Size();
+    const double arcDistance = MinDistanceToArc(point, a, b, centre, radius, decoder.Angle());
     // A radius a hair below 0 still has ends at their distance, and is that of the centre.
     FUZZ_REQUIRE(!(arcDistance <= -1e-9));
     DPOINT2 foot(-77.25, 1234.5);

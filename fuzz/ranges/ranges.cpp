@@ -277,7 +277,7 @@ PosRangeD NextRange(Decoder& decoder, const std::vector<PosRangeD>& earlier)
         const int segment = decoder.Whole();
         const double startRatio = decoder.Number();
         return decoder.Flag() ? PosRangeD(segment, startRatio, decoder.Number())
-                              : PosRangeD(segment, startRatio, decoder.Whole(), decoder.Number());
+                              : PosRangeD{segment, startRatio, decoder.Whole(), decoder.Number()};
     }
     default: {
         const double start = decoder.Size();

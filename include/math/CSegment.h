@@ -127,6 +127,9 @@ public:
     /// through `p` meets it, the arc's ends being reached within DoubleTolerance of angle. Where there is none, it is
     /// the nearer end, and `end` when both are equally far. A straight segment of no length gives `end`.
     ///
+    /// A point reached past an end of an arc stays on its ray while `t` is 0 or 1, so it may be away from GetPoint(t) by
+    /// DoubleTolerance times the radius.
+    ///
     /// From the centre of an arc there is no such ray, so the nearer end is taken there too: `end`, but for the
     /// rounding of the distances. `p` counts as the centre within four rounding units of the radius from where it is
     /// computed.
