@@ -66,6 +66,61 @@ TEST(EllipseHeights, DifferFromThePointsOfVerticalsByLessThanTheirMargin)
     EXPECT_GT(worst, 1e-3);
 }
 
+TEST(EllipseHeights, KeepAMarginThatGrowsWithTheSquareOfTheFlatness)
+{
+    // Errors of the coefficients of a quadratic are divided by the leading one, which is as small as the square of the
+    // ratio of the semi-axes. The axes add up to 17 each time, so that the coordinates are of one magnitude.
+    const double ofCircle = HeightsOf({{3, 4}, 8.5, 8.5, 0}).HeightMargin();
+    EXPECT_GE(ofCircle, 24.0 * 1e-15) << "some units in the last place of the greatest coordinates";
+    for (const double flatness : {2.0, 4.0, 16.0})
+    {
+        const double shorter = 17.0 / (1.0 + flatness);
+        const double expected = flatness * flatness * ofCircle;
+        EXPECT_NEAR(HeightsOf({{3, 4}, 17.0 - shorter, shorter, 1}).HeightMargin(), expected, 1e-9 * expected);
+        EXPECT_NEAR(HeightsOf({{3, 4}, shorter, 17.0 - shorter, 1}).HeightMargin(), expected, 1e-9 * expected);
+    }
+}
+
+TEST(EllipseHeights, ReachForMissesOnlyAsFarAsTheQuadraticIsSurelyNone)
+{
+    // Beside an ellipse the quadratic of a vertical has, in the frame of the ellipse, a leading coefficient of at least
+    // 1/f² for semi-axes of the ratio f. Its constant term is the difference of two squares, of the place where the
+    // vertical crosses the own axis, at most √2 times as far from the centre as the vertical itself, and of a semi-axis.
+    // It is taken for linear where the first is less than 1e-9 times the second. As far as the reach it is half that far
+    // off, even if both squares are added.
+    std::mt19937_64 engine(21);
+    int withReach = 0;
+    for (int round = 0; round < 20000; ++round)
+    {
+        const Ellipse ellipse = RandomOrdinaryEllipse(engine);
+        const Heights heights = HeightsOf(ellipse);
+        const double reach = heights.MissReach();
+        if (!heights.IsOrdinary() || reach == 0.0)
+        {
+            continue;
+        }
+        ++withReach;
+        const double longer = std::max(ellipse.a, ellipse.b);
+        const double flatness = longer / std::min(ellipse.a, ellipse.b);
+        const double constant = 2.0 * reach * reach + longer * longer;
+        ASSERT_LE(constant * flatness * flatness, 0.5e9 * (1.0 + 1e-12)) << "round " << round;
+        if (reach > longer)
+        {
+            const double x = ellipse.centre.x + (round % 2 == 0 ? reach : -reach);
+            DPOINT2 first;
+            DPOINT2 second;
+            ASSERT_EQ(Intersect_BeelineWithEllipse({x, 0}, HalfPi, ellipse.centre, ellipse.a, ellipse.b,
+                                                   ellipse.rotation, &first, &second),
+                      0)
+                << "round " << round;
+        }
+    }
+    EXPECT_GT(withReach, 10000);
+    // Too short a reach would be of no use: beside small ellipses it is hundreds or thousands of units.
+    EXPECT_GT(HeightsOf({{3, 4}, 2, 1, 0}).MissReach(), 5000.0);
+    EXPECT_GT(HeightsOf({{3, 4}, 1, 16, 1}).MissReach(), 500.0);
+}
+
 TEST(EllipseHeights, AreNotToldOfFiguresWhoseErrorsHaveNoBound)
 {
     EXPECT_TRUE(HeightsOf({{0, 0}, 16, 1, 0}).IsOrdinary());
