@@ -14,7 +14,7 @@ cd "$(dirname "$0")/.."
 . scripts/common.sh
 
 form=plain
-runs=(--benchmark_repetitions=3 --benchmark_min_time=0.04 --benchmark_enable_random_interleaving=true)
+runs=(--benchmark_repetitions=15 --benchmark_min_time=0.02 --benchmark_enable_random_interleaving=true)
 filter=.
 while [ $# -gt 0 ]; do
     case "$1" in
