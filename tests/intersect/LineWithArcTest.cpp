@@ -166,44 +166,13 @@ TEST(IntersectLineWithArc, AgreesWithTheStepsWrittenOut)
     int counts[3] = {};
     for (int i = 0; i < 100000; ++i)
     {
-        const double size = random.Coin() ? 10.0 : random.Size(1e-8, 1e8);
-        const DPOINT2 centre = random.Coin() ? At(0.0, 0.0) : random.Point(random.Size(1e-3, 1e9));
-        const double radius = random.Integer(0, 9) == 0 ? random.Size(1e-12, 1e-7) : size * random.Number(0.1, 1.0);
-        const auto ahead = [&](const DPOINT2& point, double radian, double distance) {
-            return At(point.x + std::cos(radian) * distance, point.y + std::sin(radian) * distance);
-        };
-        const auto hair = [&] { return random.Coin() ? 0.0 : random.Size(1e-10, 1e-7) * (random.Coin() ? 1 : -1); };
-        const double radian = random.Radian();
-        DPOINT2 from = ahead(centre, radian, size * random.Number(0.0, 1.5));
-        DPOINT2 to = ahead(centre, random.Radian(), size * random.Number(0.0, 1.5));
-        switch (random.Integer(0, 5))
-        {
-        case 0: // an end on the circle, or a hair beside it
-            from = ahead(centre, radian, radius + hair());
-            break;
-        case 1: // a tangent, or nearly one
-            to = ahead(ahead(centre, radian, radius + hair()), radian + HalfPi, size * random.Number(-1.0, 1.0));
-            from = ahead(ahead(centre, radian, radius + hair()), radian + HalfPi, size * random.Number(-1.0, 1.0));
-            break;
-        case 2: // of hardly any length
-            to = ahead(from, random.Radian(), random.Coin() ? 0.0 : random.Size(1e-10, 1e-8));
-            break;
-        case 3:
-            (random.Coin() ? from.x : to.y) = random.Coin() ? InvalidDouble : Infinity;
-            break;
-        default:
-            break;
-        }
-        const double start = random.Coin() ? radian : random.Number(-7.0, 7.0);
-        const double sweep = random.Number(-TwoPi, TwoPi);
+        const auto [circle, radian, stretch] = RandomStretchByCircle(random);
+        const Arc arc{circle.centre, circle.radius, random.Coin() ? radian : random.Number(-7.0, 7.0),
+                      random.Number(-TwoPi, TwoPi)};
         DPOINT2 expected[2];
-        const int count = reference::LineWithArc(from, to, centre, radius, start, sweep, expected);
-        DPOINT2 first = Untouched();
-        DPOINT2 second = Untouched();
-        const int code = Intersect_LineWithArc(from, to, centre, radius, start, sweep, &first, &second);
-        ASSERT_EQ(code, count) << i;
-        ASSERT_TRUE(SameBits(first, count > 0 ? expected[0] : Untouched())) << i;
-        ASSERT_TRUE(SameBits(second, count > 1 ? expected[1] : Untouched())) << i;
+        const int count = reference::LineWithArc(stretch.first, stretch.second, arc.centre, arc.radius, arc.start,
+                                                 arc.sweep, expected);
+        ASSERT_TRUE(WritesBitsOf(Meeting(stretch, arc), count, expected)) << i;
         ++counts[count];
     }
     EXPECT_GT(counts[0], 1000);

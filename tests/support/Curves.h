@@ -209,6 +209,21 @@ inline ::testing::AssertionResult SameResult(const std::string& how, int code, i
 
 } // namespace inner
 
+/// Runs the pointer form with both outputs: it tells so many points and writes these alone, bit for bit.
+inline ::testing::AssertionResult WritesBitsOf(const BothForms& forms, int count, const DPOINT2 (&expected)[2])
+{
+    DPOINT2 first = Untouched();
+    DPOINT2 second = Untouched();
+    const int code = forms.pointerForm(&first, &second);
+    if (code == count && SameBits(first, count > 0 ? expected[0] : Untouched()) &&
+        SameBits(second, count > 1 ? expected[1] : Untouched()))
+    {
+        return ::testing::AssertionSuccess();
+    }
+    return ::testing::AssertionFailure() << "result " << code << " instead of " << count << ", points "
+                                         << ::testing::PrintToString(first) << ::testing::PrintToString(second);
+}
+
 /// Runs the pointer form with each choice of outputs: written ones hold `points`, the others what stood there before.
 inline ::testing::AssertionResult PointerFormGives(const BothForms& forms, int code, std::vector<DPOINT2> points,
                                                    double tolerance)
@@ -429,6 +444,51 @@ inline Stretch RandomStretch(Random& random)
 inline Circle CircleOf(const Arc& arc)
 {
     return {arc.centre, arc.radius};
+}
+
+// Random curves
+
+/// A circle and a stretch near it that begins in a direction from the centre.
+struct CircleAndStretch
+{
+    Circle circle;
+    double radian;
+    Stretch stretch;
+};
+
+/// Any stretch, with an end on the circle, along a tangent, each of them off by a hair at times, of hardly any length, or
+/// with a coordinate that is no finite number.
+inline CircleAndStretch RandomStretchByCircle(Random& random)
+{
+    const double size = random.Coin() ? 10.0 : random.Size(1e-8, 1e8);
+    const DPOINT2 centre = random.Coin() ? At(0.0, 0.0) : random.Point(random.Size(1e-3, 1e9));
+    const double radius = random.Integer(0, 9) == 0 ? random.Size(1e-12, 1e-7) : size * random.Number(0.1, 1.0);
+    const auto ahead = [&](const DPOINT2& point, double radian, double distance) {
+        return At(point.x + std::cos(radian) * distance, point.y + std::sin(radian) * distance);
+    };
+    const auto hair = [&] { return random.Coin() ? 0.0 : random.Size(1e-10, 1e-7) * (random.Coin() ? 1 : -1); };
+    const double radian = random.Radian();
+    DPOINT2 from = ahead(centre, radian, size * random.Number(0.0, 1.5));
+    DPOINT2 to = ahead(centre, random.Radian(), size * random.Number(0.0, 1.5));
+    switch (random.Integer(0, 5))
+    {
+    case 0: // an end on the circle, or a hair beside it
+        from = ahead(centre, radian, radius + hair());
+        break;
+    case 1: // a tangent, or nearly one
+        to = ahead(ahead(centre, radian, radius + hair()), radian + HalfPi, size * random.Number(-1.0, 1.0));
+        from = ahead(ahead(centre, radian, radius + hair()), radian + HalfPi, size * random.Number(-1.0, 1.0));
+        break;
+    case 2: // of hardly any length
+        to = ahead(from, random.Radian(), random.Coin() ? 0.0 : random.Size(1e-10, 1e-8));
+        break;
+    case 3:
+        (random.Coin() ? from.x : to.y) = random.Coin() ? InvalidDouble : Infinity;
+        break;
+    default:
+        break;
+    }
+    return {{centre, radius}, radian, {from, to}};
 }
 
 } // namespace math::test

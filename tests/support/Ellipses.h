@@ -517,6 +517,27 @@ inline Ellipse RandomEllipse(Random& random, double size = 1.0, double spread = 
     return {centre, a, b, random.Number(-7.0, 7.0)};
 }
 
+/// Of any size from 0.02 to 1e5, at times thin, turned by a multiple of an eighth turn, or far from the origin.
+inline Ellipse RandomEllipseOfAnyShape(Random& random)
+{
+    Ellipse ellipse = RandomEllipse(random, random.Coin() ? 3.0 : random.Size(0.02, 1e5));
+    switch (random.Integer(0, 5))
+    {
+    case 0: // from round to very thin
+        ellipse.b = ellipse.a * random.Size(0.01, 1.0);
+        break;
+    case 1:
+        ellipse.rotation = random.Integer(-8, 8) * QuarterPi;
+        break;
+    case 2:
+        ellipse.centre = random.Point(random.Size(1.0, 1e6));
+        break;
+    default:
+        break;
+    }
+    return ellipse;
+}
+
 /// A stretch near an ellipse: any, with an end on the curve, along a tangent, each of them off by a hair at times, or of
 /// hardly any length.
 inline Stretch RandomStretchBy(Random& random, const Ellipse& ellipse)
