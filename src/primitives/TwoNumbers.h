@@ -64,9 +64,11 @@ public:
         return TwoNumbers(b.m_lanes < a.m_lanes ? b.m_lanes : a.m_lanes);
     }
 
+    /// As std::abs of either.
     friend TwoNumbers MagnitudesOf(const TwoNumbers& a)
     {
-        return TwoNumbers(a.m_lanes < -a.m_lanes ? -a.m_lanes : a.m_lanes);
+        constexpr Bits allButTheSign = {0x7FFFFFFFFFFFFFFF, 0x7FFFFFFFFFFFFFFF};
+        return TwoNumbers(reinterpret_cast<Lanes>(reinterpret_cast<Bits>(a.m_lanes) & allButTheSign));
     }
 
     /// Where `a` is less than `b`: nowhere 0, in the first number 1, in the second 2, in both 3.
@@ -81,6 +83,7 @@ public:
 
 private:
     using Lanes = double __attribute__((vector_size(2 * sizeof(double))));
+    using Bits = long long __attribute__((vector_size(2 * sizeof(double))));
 
     explicit TwoNumbers(const Lanes& lanes) : m_lanes(lanes)
     {
